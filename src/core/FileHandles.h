@@ -1,0 +1,39 @@
+#pragma once
+
+#include "FieldReader.h"
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace vistrel {
+
+// The pool of numbered file handles the station takes for one job each:
+// a handle is opened, used and closed at once; nothing stays open between
+// operations. Errors are reported by return value and mostly ignored.
+class FileHandles {
+public:
+    enum class Mode { Input, Output, Append };
+
+    // The lowest number not in use.
+    int freeFile() const;
+    bool open(int handle, const std::string& path, Mode mode);
+    void close(int handle);
+    bool isOpen(int handle) const;
+
+    // Input: the next field, and whether the file is now at its end.
+    std::string readField(int handle, bool& atEnd);
+    // Output and Append: one line with a carriage return and line feed.
+    bool printLine(int handle, const std::string& text);
+
+private:
+    struct Handle {
+        Mode mode = Mode::Input;
+        FieldReader reader;
+        std::FILE* out = nullptr;
+        ~Handle();
+    };
+    std::map<int, std::unique_ptr<Handle>> open_;
+};
+
+}  // namespace vistrel

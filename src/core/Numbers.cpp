@@ -1,0 +1,332 @@
+#include "Numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+namespace vistrel {
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// Length of the number at the start of text (no blanks), 0 when none.
+// Sets hasDigits when at least one mantissa digit was seen.
+size_t scanNumber(std::string_view text, bool& hasDigits)
+{
+    size_t i = 0;
+    const size_t n = text.size();
+    hasDigits = false;
+    if (i < n && (text[i] == '+' || text[i] == '-'))
+        ++i;
+    while (i < n && isDigit(text[i])) {
+        ++i;
+        hasDigits = true;
+    }
+    if (i < n && text[i] == '.') {
+        ++i;
+        while (i < n && isDigit(text[i])) {
+            ++i;
+            hasDigits = true;
+        }
+    }
+    if (!hasDigits)
+        return 0;
+    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        size_t j = i + 1;
+        if (j < n && (text[j] == '+' || text[j] == '-'))
+            ++j;
+        if (j < n && isDigit(text[j])) {
+            while (j < n && isDigit(text[j]))
+                ++j;
+            i = j;
+        }
+    }
+    return i;
+}
+
+double parseScanned(std::string_view number)
+{
+    std::string s(number);
+    for (char& c : s)
+        if (c == 'd' || c == 'D')
+            c = 'e';
+    if (!s.empty() && s.front() == '+')
+        s.erase(0, 1);
+    const double v = std::strtod(s.c_str(), nullptr);
+    // A number too large for a Double reads as 0, like any other bad number.
+    if (!std::isfinite(v))
+        return 0;
+    return v;
+}
+
+// Decimal digits and exponent of |x| with at most fifteen significant digits.
+struct Decimal {
+    std::string digits;  // no leading zeros, at least one digit
+    int exponent = 0;    // value = 0.d1d2d3... * 10^exponent
+};
+
+Decimal toDecimal(double x)
+{
+    Decimal d;
+    x = std::fabs(x);
+    if (x == 0) {
+        d.digits = "0";
+        d.exponent = 1;
+        return d;
+    }
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "%.14e", x);  // d.dddddddddddddde±XX
+    std::string mant;
+    const char* p = buf;
+    for (; *p && *p != 'e'; ++p)
+        if (isDigit(*p))
+            mant.push_back(*p);
+    const int exp10 = std::atoi(p + 1);
+    while (mant.size() > 1 && mant.back() == '0')
+        mant.pop_back();
+    d.digits = mant;
+    d.exponent = exp10 + 1;
+    return d;
+}
+
+}  // namespace
+
+double Val(std::string_view text)
+{
+    size_t i = 0;
+    while (i < text.size() && isBlank(text[i]))
+        ++i;
+    text.remove_prefix(i);
+    bool hasDigits = false;
+    const size_t len = scanNumber(text, hasDigits);
+    if (len == 0)
+        return 0;
+    return parseScanned(text.substr(0, len));
+}
+
+bool IsNumeric(std::string_view text)
+{
+    size_t b = 0, e = text.size();
+    while (b < e && isBlank(text[b]))
+        ++b;
+    while (e > b && isBlank(text[e - 1]))
+        --e;
+    text = text.substr(b, e - b);
+    if (text.empty())
+        return false;
+    bool hasDigits = false;
+    const size_t len = scanNumber(text, hasDigits);
+    return len == text.size() && hasDigits;
+}
+
+std::string StrTrimmed(double number)
+{
+    if (number == 0 || !std::isfinite(number))
+        return "0";
+    const Decimal d = toDecimal(number);
+    std::string out;
+    if (number < 0)
+        out.push_back('-');
+    const int e = d.exponent;  // value = 0.digits * 10^e
+    const int digits = static_cast<int>(d.digits.size());
+    if (e > 15 || e < -3) {
+        // Scientific form: d.dddE+XX
+        out.push_back(d.digits[0]);
+        if (digits > 1) {
+            out.push_back('.');
+            out.append(d.digits, 1, std::string::npos);
+        }
+        const int shown = e - 1;
+        char buf[16];
+        std::snprintf(buf, sizeof buf, "E%c%02d", shown < 0 ? '-' : '+', std::abs(shown));
+        out += buf;
+        return out;
+    }
+    if (e <= 0) {
+        out.push_back('.');
+        out.append(static_cast<size_t>(-e), '0');
+        out += d.digits;
+    } else if (e >= digits) {
+        out += d.digits;
+        out.append(static_cast<size_t>(e - digits), '0');
+    } else {
+        out.append(d.digits, 0, static_cast<size_t>(e));
+        out.push_back('.');
+        out.append(d.digits, static_cast<size_t>(e), std::string::npos);
+    }
+    return out;
+}
+
+std::string Str(double number)
+{
+    std::string t = StrTrimmed(number);
+    if (t.empty() || t[0] != '-')
+        t.insert(t.begin(), ' ');
+    return t;
+}
+
+namespace {
+
+struct Pattern {
+    std::string prefix;      // literals before the first placeholder
+    std::string suffix;      // literals after the last placeholder
+    int minIntegerDigits = 0;
+    int decimals = 0;
+    bool hasPoint = false;
+};
+
+Pattern parsePattern(std::string_view p)
+{
+    Pattern pat;
+    size_t first = p.find_first_of("0#.");
+    size_t last = p.find_last_of("0#.");
+    if (first == std::string_view::npos) {
+        pat.prefix = std::string(p);
+        return pat;
+    }
+    pat.prefix = std::string(p.substr(0, first));
+    pat.suffix = std::string(p.substr(last + 1));
+    bool afterPoint = false;
+    for (size_t i = first; i <= last; ++i) {
+        const char c = p[i];
+        if (c == '.') {
+            afterPoint = true;
+            pat.hasPoint = true;
+        } else if (c == '0' || c == '#') {
+            if (afterPoint)
+                ++pat.decimals;
+            else if (c == '0')
+                ++pat.minIntegerDigits;
+        }
+    }
+    return pat;
+}
+
+// Rounds the decimal digits of |x| to 'decimals' places, half away from
+// zero, and gives the integer and fraction digits.
+void roundDecimal(double x, int decimals, std::string& integerPart, std::string& fraction)
+{
+    const Decimal d = toDecimal(x);
+    // All digits as a string with the point after position 'e'.
+    std::string all;
+    int pointAt = d.exponent;
+    if (pointAt <= 0) {
+        all.assign(static_cast<size_t>(1 - pointAt), '0');
+        all += d.digits;
+        pointAt = 1;
+    } else {
+        all = d.digits;
+        if (static_cast<int>(all.size()) < pointAt)
+            all.append(static_cast<size_t>(pointAt - static_cast<int>(all.size())), '0');
+    }
+    const int keep = pointAt + decimals;
+    bool roundUp = false;
+    if (static_cast<int>(all.size()) > keep) {
+        roundUp = all[static_cast<size_t>(keep)] >= '5';
+        all.resize(static_cast<size_t>(keep));
+    } else {
+        all.append(static_cast<size_t>(keep - static_cast<int>(all.size())), '0');
+    }
+    if (roundUp) {
+        int i = keep - 1;
+        for (; i >= 0; --i) {
+            if (all[static_cast<size_t>(i)] == '9') {
+                all[static_cast<size_t>(i)] = '0';
+            } else {
+                ++all[static_cast<size_t>(i)];
+                break;
+            }
+        }
+        if (i < 0) {
+            all.insert(all.begin(), '1');
+            ++pointAt;
+        }
+    }
+    integerPart = all.substr(0, static_cast<size_t>(pointAt));
+    fraction = all.substr(static_cast<size_t>(pointAt));
+    size_t nz = integerPart.find_first_not_of('0');
+    integerPart = nz == std::string::npos ? std::string() : integerPart.substr(nz);
+}
+
+}  // namespace
+
+std::string Format(double number, std::string_view pattern)
+{
+    const Pattern pat = parsePattern(pattern);
+    if (!std::isfinite(number))
+        number = 0;
+    std::string integerPart, fraction;
+    roundDecimal(number, pat.decimals, integerPart, fraction);
+    const bool zero = integerPart.empty() && fraction.find_first_not_of('0') == std::string::npos;
+    if (static_cast<int>(integerPart.size()) < pat.minIntegerDigits)
+        integerPart.insert(0, static_cast<size_t>(pat.minIntegerDigits) - integerPart.size(), '0');
+    std::string out = pat.prefix;
+    if (number < 0 && !zero)
+        out.push_back('-');
+    out += integerPart;
+    if (pat.hasPoint) {
+        out.push_back('.');
+        out += fraction;
+    }
+    out += pat.suffix;
+    return out;
+}
+
+std::optional<std::int16_t> ToInteger(double number)
+{
+    if (!std::isfinite(number))
+        return std::nullopt;
+    const double r = std::nearbyint(number);
+    if (r < -32768.0 || r > 32767.0)
+        return std::nullopt;
+    return static_cast<std::int16_t>(r);
+}
+
+std::optional<std::int32_t> ToLong(double number)
+{
+    if (!std::isfinite(number))
+        return std::nullopt;
+    const double r = std::nearbyint(number);
+    if (r < -2147483648.0 || r > 2147483647.0)
+        return std::nullopt;
+    return static_cast<std::int32_t>(r);
+}
+
+std::int16_t ToIntegerOr(double number, std::int16_t fallback)
+{
+    return ToInteger(number).value_or(fallback);
+}
+
+double Int(double number)
+{
+    return std::floor(number);
+}
+
+std::string ShortestNumber(double number)
+{
+    if (number == 0)
+        return "0";
+    std::array<char, 64> buf{};
+    auto res = std::to_chars(buf.data(), buf.data() + buf.size(), number);
+    std::string s(buf.data(), res.ptr);
+    // Plain positional text for ordinary magnitudes.
+    if (s.find('e') != std::string::npos && std::fabs(number) < 1e21 && std::fabs(number) >= 1e-7) {
+        res = std::to_chars(buf.data(), buf.data() + buf.size(), number, std::chars_format::fixed);
+        s.assign(buf.data(), res.ptr);
+    }
+    return s;
+}
+
+}  // namespace vistrel

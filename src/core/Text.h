@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vistrel {
+
+std::string Trim(std::string_view text);   // blanks off both ends
+std::string LTrim(std::string_view text);  // blanks off the front
+std::string RTrim(std::string_view text);  // blanks off the end
+std::string UCase(std::string_view text);
+std::string RemoveBlanks(std::string_view text);
+bool Contains(std::string_view text, std::string_view part);
+
+// Pads with blanks on the right, or leaves a longer text whole, so that
+// list rows line up.
+std::string SizedField(std::string_view initialField, int fieldSize);
+
+// A flag as a column of a list row: the text of a set flag, "x" when off;
+// with "1/0" the texts "1" and "0".
+std::string TrueFalse(bool bigFlag, std::string_view replacementValue);
+
+// Axis distance on the 180-degree circle, in 16-bit whole numbers.
+std::int16_t AxisDifference(std::int16_t firstAxis, std::int16_t secondAxis);
+
+}  // namespace vistrel

@@ -1,0 +1,296 @@
+#include "Controls.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace vistrel {
+
+TextBox::TextBox(Form& form, std::string name, int index)
+    : Control(form, ControlKind::TextBox, std::move(name), index)
+{
+    setBackColor(colors::WindowBackground);
+    setForeColor(colors::WindowText);
+}
+
+void TextBox::setText(const std::string& text)
+{
+    if (text == text_)
+        return;
+    text_ = text;
+    notify(Prop::Text);
+    raise(onChange);
+}
+
+CheckBox::CheckBox(Form& form, std::string name, int index)
+    : Control(form, ControlKind::CheckBox, std::move(name), index)
+{
+}
+
+void CheckBox::setValue(int value)
+{
+    if (value == value_)
+        return;
+    value_ = value;
+    notify(Prop::Value);
+    raise(onClick);
+}
+
+void CheckBox::click()
+{
+    setValue(value_ == 1 ? 0 : 1);
+}
+
+OptionButton::OptionButton(Form& form, std::string name, OptionGroup& group, int index)
+    : Control(form, ControlKind::OptionButton, std::move(name), index), group_(&group)
+{
+    group.add(*this);
+}
+
+void OptionButton::clearSilently()
+{
+    if (!value_)
+        return;
+    value_ = false;
+    notify(Prop::Value);
+}
+
+void OptionButton::setValue(bool value)
+{
+    if (!value) {
+        clearSilently();
+        return;
+    }
+    for (OptionButton* other : group_->members())
+        if (other != this)
+            other->clearSilently();
+    if (!value_) {
+        value_ = true;
+        notify(Prop::Value);
+    }
+    raise(onClick);
+}
+
+void OptionButton::selectQuietly()
+{
+    for (OptionButton* other : group_->members())
+        if (other != this)
+            other->clearSilently();
+    if (!value_) {
+        value_ = true;
+        notify(Prop::Value);
+    }
+}
+
+void OptionButton::click()
+{
+    select();
+}
+
+CommandButton::CommandButton(Form& form, std::string name, int index)
+    : Control(form, ControlKind::CommandButton, std::move(name), index)
+{
+}
+
+Label::Label(Form& form, std::string name, int index)
+    : Control(form, ControlKind::Label, std::move(name), index)
+{
+}
+
+Frame::Frame(Form& form, std::string name, int index)
+    : Control(form, ControlKind::Frame, std::move(name), index)
+{
+}
+
+Image::Image(Form& form, std::string name, int index)
+    : Control(form, ControlKind::Image, std::move(name), index)
+{
+}
+
+namespace {
+
+// The sorted list compares as the platform's list box did: without regard
+// to the case of letters, otherwise character by character.
+bool rowTextLess(const std::string& a, const std::string& b)
+{
+    const size_t n = std::min(a.size(), b.size());
+    for (size_t i = 0; i < n; ++i) {
+        const int ca = std::tolower(static_cast<unsigned char>(a[i]));
+        const int cb = std::tolower(static_cast<unsigned char>(b[i]));
+        if (ca != cb)
+            return ca < cb;
+    }
+    return a.size() < b.size();
+}
+
+}  // namespace
+
+ListBox::ListBox(Form& form, std::string name, bool sorted, int index)
+    : Control(form, ControlKind::ListBox, std::move(name), index), sorted_(sorted)
+{
+    setBackColor(colors::WindowBackground);
+    setForeColor(colors::WindowText);
+}
+
+int ListBox::addItem(const std::string& text, std::int32_t itemData)
+{
+    auto at = rows_.end();
+    if (sorted_) {
+        // Equal rows keep the order in which they came.
+        at = std::upper_bound(rows_.begin(), rows_.end(), text,
+            [](const std::string& t, const Row& r) { return rowTextLess(t, r.text); });
+    }
+    const int position = static_cast<int>(at - rows_.begin());
+    rows_.insert(at, Row{text, itemData});
+    if (listIndex_ >= position)
+        ++listIndex_;
+    if (ControlObserver* o = observer())
+        o->listRowInserted(*this, position);
+    return position;
+}
+
+void ListBox::setItemData(int row, std::int32_t data)
+{
+    if (row < 0 || row >= listCount())
+        return;
+    rows_[static_cast<size_t>(row)].itemData = data;
+}
+
+void ListBox::clear()
+{
+    rows_.clear();
+    listIndex_ = -1;
+    topIndex_ = 0;
+    if (ControlObserver* o = observer())
+        o->listCleared(*this);
+}
+
+void ListBox::setListIndex(int index)
+{
+    if (index < -1 || index >= listCount())
+        index = -1;
+    if (index == listIndex_)
+        return;
+    listIndex_ = index;
+    notify(Prop::ListIndex);
+}
+
+void ListBox::setTopIndex(int index)
+{
+    index = std::clamp(index, 0, std::max(0, listCount() - 1));
+    if (index == topIndex_)
+        return;
+    topIndex_ = index;
+    notify(Prop::TopIndex);
+    raise(onScroll);
+}
+
+ComboBox::ComboBox(Form& form, std::string name, int index)
+    : Control(form, ControlKind::ComboBox, std::move(name), index)
+{
+    setBackColor(colors::WindowBackground);
+    setForeColor(colors::WindowText);
+}
+
+void ComboBox::setText(const std::string& text)
+{
+    if (text == text_)
+        return;
+    text_ = text;
+    notify(Prop::Text);
+}
+
+void ComboBox::addItem(const std::string& item)
+{
+    items_.push_back(item);
+    notify(Prop::List);
+}
+
+void ComboBox::clear()
+{
+    items_.clear();
+    notify(Prop::List);
+}
+
+Grid::Grid(Form& form, std::string name, int rows, int cols, int index)
+    : Control(form, ControlKind::Grid, std::move(name), index),
+      rows_(rows),
+      cols_(cols),
+      cells_(static_cast<size_t>(rows * cols))
+{
+    setBackColor(colors::WindowBackground);
+}
+
+Grid::Cell* Grid::cell(int row, int col)
+{
+    if (row < 0 || row >= rows_ || col < 0 || col >= cols_)
+        return nullptr;
+    return &cells_[static_cast<size_t>(row * cols_ + col)];
+}
+
+const Grid::Cell* Grid::cell(int row, int col) const
+{
+    return const_cast<Grid*>(this)->cell(row, col);
+}
+
+const std::string& Grid::textMatrix(int row, int col) const
+{
+    static const std::string none;
+    const Cell* c = cell(row, col);
+    return c ? c->text : none;
+}
+
+void Grid::setTextMatrix(int row, int col, const std::string& text)
+{
+    if (Cell* c = cell(row, col); c && c->text != text) {
+        c->text = text;
+        notify(Prop::Cells);
+    }
+}
+
+Color Grid::cellBackColor(int row, int col) const
+{
+    const Cell* c = cell(row, col);
+    return c ? c->back : colors::WindowBackground;
+}
+
+void Grid::setCellBackColor(int row, int col, Color color)
+{
+    if (Cell* c = cell(row, col); c && c->back != color) {
+        c->back = color;
+        notify(Prop::Cells);
+    }
+}
+
+Timer::Timer(Form& form, std::string name, int intervalMs)
+    : Control(form, ControlKind::Timer, std::move(name)), interval_(intervalMs)
+{
+}
+
+void Timer::setInterval(int ms)
+{
+    if (ms == interval_)
+        return;
+    interval_ = ms;
+    notify(Prop::Interval);
+}
+
+void Timer::fire()
+{
+    if (enabled())
+        raise(onTimer);
+}
+
+Menu::Menu(Form& form, std::string name, Menu* parent)
+    : Control(form, ControlKind::Menu, std::move(name)), parent_(parent)
+{
+}
+
+void Menu::setChecked(bool on)
+{
+    if (on == checked_)
+        return;
+    checked_ = on;
+    notify(Prop::Value);
+}
+
+}  // namespace vistrel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Controls.h"
+#include "Form.h"
+#include "Registry.h"
+#include "Variant.h"
+
+namespace vistrel {
+
+class Platform;
+class Frm_Vistrel;
+class Frm_ProgramOptions;
+class Frm_Autorefractor;
+class Frm_AutoReadings;
+class Frm_Advisor;
+class Frm_RemoveRejectInventory;
+class Frm_SavePrescription;
+class Frm_LensFrames;
+class Frm_ReadingGlasses;
+class Frm_HelpVarnRule;
+class Frm_HelpAreas;
+class Frm_About;
+class Frm_CheckForUpdates;
+
+// A screen of the station, with short ways to the other screens: the
+// screens read and write each other's fields directly, as they always have.
+class Screen : public Form {
+public:
+    using Form::Form;
+
+protected:
+    Platform& platform() const;
+    Frm_Vistrel& vistrel() const;
+    Frm_ProgramOptions& options() const;
+    Frm_Autorefractor& autorefractor() const;
+    Frm_AutoReadings& autoReadings() const;
+    Frm_Advisor& advisor() const;
+    Frm_RemoveRejectInventory& removeReject() const;
+    Frm_SavePrescription& savePrescription() const;
+    Frm_LensFrames& lensFrames() const;
+    Frm_ReadingGlasses& readingGlasses() const;
+    Frm_HelpVarnRule& helpVarnRule() const;
+    Frm_HelpAreas& helpAreas() const;
+    Frm_About& about() const;
+    Frm_CheckForUpdates& checkForUpdates() const;
+
+    // Registers a handler or public operation under its name.
+    void op(const std::string& name, std::function<void()> fn) { bindOp(name, std::move(fn)); }
+    template <typename T>
+    void var(const std::string& name, T& v)
+    {
+        bindVar(name, bind::scalar(v));
+    }
+};
+
+}  // namespace vistrel
