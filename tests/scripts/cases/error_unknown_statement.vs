@@ -1,0 +1,1 @@
+frobnicate Frm_About.Cmd_Exit

@@ -1,0 +1,2 @@
+# With --print-to the file exists even when nothing is printed.
+print Frm_Vistrel.Visible

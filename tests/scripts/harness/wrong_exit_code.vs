@@ -1,0 +1,1 @@
+print Frm_Nowhere.Visible

@@ -1,0 +1,1 @@
+print Frm_Vistrel.Visible

@@ -1,0 +1,111 @@
+#include "ScriptPlatform.h"
+
+#include "Escape.h"
+#include "platform/PathMapping.h"
+#include "core/screen/Control.h"
+#include "core/screen/Form.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+
+namespace vistrel::script {
+
+ScriptPlatform::ScriptPlatform(Output& out, PlatformSettings settings)
+    : out_(&out), settings_(std::move(settings)), serial_(out)
+{
+}
+
+void ScriptPlatform::messageBox(const std::string& title, const std::string& text, MsgIcon)
+{
+    out_->line("MsgBox: " + escapeValue(title) + " | " + escapeValue(text));
+}
+
+void ScriptPlatform::runModal(Form& form)
+{
+    auto queued = answers_.find(&form);
+    if (queued != answers_.end() && !queued->second.empty()) {
+        Control* button = queued->second.front();
+        queued->second.pop_front();
+        button->click();
+        if (form.visible())
+            form.closeBox();
+    } else if (form.name() == "Frm_ProgramOptions" && form.control("Cmd_Continue")) {
+        form.control("Cmd_Continue")->click();
+        if (form.visible())
+            form.closeBox();
+    } else {
+        form.closeBox();
+    }
+    // A screen that refuses to close must not hang the script.
+    if (form.visible())
+        form.hide();
+}
+
+void ScriptPlatform::queueAnswer(Form& form, Control& button)
+{
+    answers_[&form].push_back(&button);
+}
+
+void ScriptPlatform::shell(const std::string& what)
+{
+    out_->line("Shell: " + escapeValue(what));
+}
+
+DateTime ScriptPlatform::now()
+{
+    if (settings_.frozenNow)
+        return *settings_.frozenNow;
+    const std::time_t t = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&t, &local);
+    return DateTime{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
+        local.tm_sec};
+}
+
+std::string ScriptPlatform::nativePath(const std::string& path)
+{
+    return mapDriveLetterPath(path, sharedDataFolder());
+}
+
+void ScriptPlatform::setFileAttributes(const std::string& path, int attributes)
+{
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    if (attributes & 1)
+        fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+            fs::perm_options::remove, ignored);
+    else
+        fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);
+}
+
+void ScriptPlatform::endProcess()
+{
+    printer_.finish();
+    out_->line("End.");
+    std::fflush(nullptr);
+    if (exitHook_)
+        exitHook_();
+    std::exit(0);
+}
+
+std::optional<DateTime> parseDateTime(const std::string& text)
+{
+    // YYYY-MM-DD HH:MM:SS, every field in its digits.
+    static constexpr char shape[] = "dddd-dd-dd dd:dd:dd";
+    if (text.size() != sizeof shape - 1)
+        return std::nullopt;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const bool digit = text[i] >= '0' && text[i] <= '9';
+        if (shape[i] == 'd' ? !digit : text[i] != shape[i])
+            return std::nullopt;
+    }
+    const auto field = [&text](size_t at, size_t len) { return std::stoi(text.substr(at, len)); };
+    const DateTime d{field(0, 4), field(5, 2), field(8, 2), field(11, 2), field(14, 2), field(17, 2)};
+    if (d.month < 1 || d.month > 12 || d.day < 1 || d.day > 31 || d.hour > 23 || d.minute > 59 || d.second > 59)
+        return std::nullopt;
+    return d;
+}
+
+}  // namespace vistrel::script

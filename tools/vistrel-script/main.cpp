@@ -1,0 +1,119 @@
+// vistrel-script: runs the whole station headless from a script of
+// statements, for tests and for reproducing what a person did.
+
+#include "DriverOptions.h"
+#include "Output.h"
+#include "ScriptError.h"
+#include "ScriptParser.h"
+#include "ScriptPlatform.h"
+#include "ScriptRunner.h"
+#include "core/Station.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+
+using namespace vistrel;
+using namespace vistrel::script;
+
+namespace {
+
+constexpr const char* usage =
+    "usage: vistrel-script [--documents DIR] [--shared DIR] [--now \"YYYY-MM-DD HH:MM:SS\"] "
+    "[--print-to FILE] SCRIPT\n";
+
+std::optional<std::string> environment(const std::string& name)
+{
+    const char* v = std::getenv(name.c_str());
+    return v ? std::optional<std::string>(v) : std::nullopt;
+}
+
+std::string programFolder(const char* argv0)
+{
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+    if (ec)
+        exe = fs::absolute(argv0 ? argv0 : ".", ec);
+    return exe.parent_path().string();
+}
+
+std::vector<std::string> readLines(std::istream& in)
+{
+    std::vector<std::string> lines;
+    std::string line;
+    while (std::getline(in, line))
+        lines.push_back(line);
+    return lines;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    DriverOptions options;
+    try {
+        options = parseDriverOptions(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const std::invalid_argument& e) {
+        std::cerr << "vistrel-script: " << e.what() << '\n' << usage;
+        return 2;
+    }
+
+    std::vector<std::string> lines;
+    if (options.script == "-") {
+        lines = readLines(std::cin);
+    } else {
+        std::ifstream file(options.script, std::ios::binary);
+        if (!file) {
+            std::cerr << "vistrel-script: cannot read " << options.script << '\n';
+            return 2;
+        }
+        lines = readLines(file);
+    }
+
+    std::ofstream printFile;
+    if (options.printTo) {
+        printFile.open(*options.printTo, std::ios::binary | std::ios::trunc);
+        if (!printFile) {
+            std::cerr << "vistrel-script: cannot write " << *options.printTo << '\n';
+            return 2;
+        }
+    }
+
+    Output out(std::cout);
+    PlatformSettings settings;
+    settings.documentsFolder = options.documents.value_or(defaultDocumentsFolder(environment));
+    settings.sharedFolder = options.shared.value_or(defaultSharedFolder(environment));
+    settings.programFolder = programFolder(argc > 0 ? argv[0] : nullptr);
+    settings.frozenNow = options.now;
+    ScriptPlatform platform(out, settings);
+    platform.textPrinter().setSink(options.printTo ? &printFile : nullptr);
+
+    Station station(platform);
+    ScriptRunner runner([&station](const std::string& name) { return station.form(name); }, platform,
+        [&station] { station.start(); });
+
+    for (size_t i = 0; i < lines.size(); ++i) {
+        const size_t lineNumber = i + 1;
+        try {
+            if (const std::optional<Statement> statement = parseStatement(lines[i]))
+                runner.run(*statement);
+        } catch (const ScriptError& e) {
+            platform.textPrinter().finish();
+            std::cout.flush();
+            std::cerr << "script error: line " << lineNumber << ": " << e.what() << '\n';
+            return 2;
+        } catch (const std::exception& e) {
+            platform.textPrinter().finish();
+            std::cout.flush();
+            std::cerr << "vistrel-script: line " << lineNumber << ": the station failed: " << e.what() << '\n';
+            return 1;
+        }
+    }
+    platform.textPrinter().finish();
+    std::cout.flush();
+    return 0;
+}
