@@ -58,6 +58,16 @@ size_t scanNumber(std::string_view text, bool& hasDigits)
 
 double parseScanned(std::string_view number)
 {
+    if (!number.empty() && number.front() == '+')
+        number.remove_prefix(1);
+    if (number.find_first_of("dD") == std::string_view::npos) {
+        double v = 0;
+        const auto res = std::from_chars(number.data(), number.data() + number.size(), v);
+        if (res.ec == std::errc() && std::isfinite(v))
+            return v;
+        if (res.ec == std::errc::result_out_of_range)
+            return 0;
+    }
     std::string s(number);
     for (char& c : s)
         if (c == 'd' || c == 'D')
@@ -101,6 +111,30 @@ Decimal toDecimal(double x)
     return d;
 }
 
+// The same as toDecimal, quickly, when the shortest text that reads back as
+// the number has no more than fifteen digits: rounding the exact value to
+// fifteen digits then gives those very digits.
+Decimal shortDecimal(double x)
+{
+    std::array<char, 40> buf{};
+    const auto res = std::to_chars(buf.data(), buf.data() + buf.size(), std::fabs(x), std::chars_format::scientific);
+    std::string mant;
+    const char* p = buf.data();
+    for (; p < res.ptr && *p != 'e'; ++p)
+        if (isDigit(*p))
+            mant.push_back(*p);
+    if (mant.size() > 15 || p == res.ptr)
+        return toDecimal(x);
+    int exp10 = 0;
+    std::from_chars(p + 1 + (p[1] == '+' ? 1 : 0), res.ptr, exp10);
+    while (mant.size() > 1 && mant.back() == '0')
+        mant.pop_back();
+    Decimal d;
+    d.digits = mant;
+    d.exponent = exp10 + 1;
+    return d;
+}
+
 }  // namespace
 
 double Val(std::string_view text)
@@ -135,7 +169,7 @@ std::string StrTrimmed(double number)
 {
     if (number == 0 || !std::isfinite(number))
         return "0";
-    const Decimal d = toDecimal(number);
+    const Decimal d = shortDecimal(number);
     std::string out;
     if (number < 0)
         out.push_back('-');
@@ -180,8 +214,8 @@ std::string Str(double number)
 namespace {
 
 struct Pattern {
-    std::string prefix;      // literals before the first placeholder
-    std::string suffix;      // literals after the last placeholder
+    std::string_view prefix;  // literals before the first placeholder
+    std::string_view suffix;  // literals after the last placeholder
     int minIntegerDigits = 0;
     int decimals = 0;
     bool hasPoint = false;
@@ -190,14 +224,14 @@ struct Pattern {
 Pattern parsePattern(std::string_view p)
 {
     Pattern pat;
-    size_t first = p.find_first_of("0#.");
-    size_t last = p.find_last_of("0#.");
+    const size_t first = p.find_first_of("0#.");
+    const size_t last = p.find_last_of("0#.");
     if (first == std::string_view::npos) {
-        pat.prefix = std::string(p);
+        pat.prefix = p;
         return pat;
     }
-    pat.prefix = std::string(p.substr(0, first));
-    pat.suffix = std::string(p.substr(last + 1));
+    pat.prefix = p.substr(0, first);
+    pat.suffix = p.substr(last + 1);
     bool afterPoint = false;
     for (size_t i = first; i <= last; ++i) {
         const char c = p[i];
@@ -216,8 +250,40 @@ Pattern parsePattern(std::string_view p)
 
 // Rounds the decimal digits of |x| to 'decimals' places, half away from
 // zero, and gives the integer and fraction digits.
+// Rounding on the binary value gives the same digits as rounding the
+// fifteen-digit decimal value unless the number lies within a hair of a half.
+bool roundDecimalQuickly(double x, int decimals, std::string& integerPart, std::string& fraction)
+{
+    static constexpr double kScale[] = {1, 10, 100, 1000, 10000};
+    if (decimals > 4)
+        return false;
+    const double y = std::fabs(x) * kScale[decimals];
+    if (!(y < 1e9))
+        return false;
+    const double whole = std::floor(y);
+    const double frac = y - whole;
+    // An exact half (as 2.125 to two places) rounds away from zero; a value
+    // only near a half is left to the careful way.
+    const bool exactHalf = frac == 0.5 && std::fma(std::fabs(x), kScale[decimals], -y) == 0;
+    if (!exactHalf && std::fabs(frac - 0.5) < 1e-6)
+        return false;
+    auto n = static_cast<long long>(whole) + (frac >= 0.5 ? 1 : 0);
+    char buf[32];
+    const auto res = std::to_chars(buf, buf + sizeof buf, n);
+    std::string digits(buf, res.ptr);
+    if (static_cast<int>(digits.size()) <= decimals)
+        digits.insert(0, static_cast<size_t>(decimals + 1) - digits.size(), '0');
+    integerPart = digits.substr(0, digits.size() - static_cast<size_t>(decimals));
+    fraction = digits.substr(digits.size() - static_cast<size_t>(decimals));
+    const size_t nz = integerPart.find_first_not_of('0');
+    integerPart = nz == std::string::npos ? std::string() : integerPart.substr(nz);
+    return true;
+}
+
 void roundDecimal(double x, int decimals, std::string& integerPart, std::string& fraction)
 {
+    if (roundDecimalQuickly(x, decimals, integerPart, fraction))
+        return;
     const Decimal d = toDecimal(x);
     // All digits as a string with the point after position 'e'.
     std::string all;
@@ -272,7 +338,7 @@ std::string Format(double number, std::string_view pattern)
     const bool zero = integerPart.empty() && fraction.find_first_not_of('0') == std::string::npos;
     if (static_cast<int>(integerPart.size()) < pat.minIntegerDigits)
         integerPart.insert(0, static_cast<size_t>(pat.minIntegerDigits) - integerPart.size(), '0');
-    std::string out = pat.prefix;
+    std::string out(pat.prefix);
     if (number < 0 && !zero)
         out.push_back('-');
     out += integerPart;

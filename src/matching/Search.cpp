@@ -80,7 +80,12 @@ void Frm_Vistrel::Search_Click()
         const EyeTarget rightEye = target(false);
 
         // 6. The eye count and the gate, then the vetoes of MatchFound.
+        // The flags of a record are kept as plain values and written to the
+        // screen's variables only when MatchFound reads them, and for the
+        // last record, which leaves them as they would stand.
         const int count = static_cast<int>(InventoryCount.number());
+        MatchFlag lastLeft = MatchFlag::None, lastRight = MatchFlag::None;
+        bool flagsPending = false;
         for (int i = 1; i <= count && i <= InventoryRows && !searchRestart_; ++i) {
             const auto r = static_cast<size_t>(i - 1);
             if (Inv_Number[r] == 0)
@@ -89,20 +94,26 @@ void Frm_Vistrel::Search_Click()
                 leftEye, regime, Inv_LeftSphere[r], Inv_LeftCylinder[r], Inv_LeftAxis[r], Inv_LeftAdd[r]);
             const EyeCount right = countEye(
                 rightEye, regime, Inv_RightSphere[r], Inv_RightCylinder[r], Inv_RightAxis[r], Inv_RightAdd[r]);
-            LeftMatchFlag = Variant(matchFlagText(left.flag));
-            RightMatchFlag = Variant(matchFlagText(right.flag));
+            lastLeft = left.flag;
+            lastRight = right.flag;
+            flagsPending = true;
             if (Inv_Removed[r])
                 continue;
-            if (!regime.astigmatic) {
-                LeftMatchFlag = Variant(matchFlagText(MatchFlag::Match));
-                RightMatchFlag = Variant(matchFlagText(MatchFlag::Match));
-            }
+            if (!regime.astigmatic)
+                lastLeft = lastRight = MatchFlag::Match;
             const bool leftPasses = left.points == regime.needed || RightOnlyValue;
             const bool rightPasses = right.points == regime.needed || LeftOnlyValue;
             if (leftPasses && rightPasses) {
+                LeftMatchFlag = Variant(matchFlagText(lastLeft));
+                RightMatchFlag = Variant(matchFlagText(lastRight));
+                flagsPending = false;
                 std::int16_t index = static_cast<std::int16_t>(i);
                 MatchFound(index);
             }
+        }
+        if (flagsPending) {
+            LeftMatchFlag = Variant(matchFlagText(lastLeft));
+            RightMatchFlag = Variant(matchFlagText(lastRight));
         }
         if (searchRestart_)
             continue;

@@ -113,9 +113,13 @@ namespace {
 bool rowTextLess(const std::string& a, const std::string& b)
 {
     const size_t n = std::min(a.size(), b.size());
+    auto fold = [](char c) {
+        const auto u = static_cast<unsigned char>(c);
+        return u >= 'A' && u <= 'Z' ? u + ('a' - 'A') : u;
+    };
     for (size_t i = 0; i < n; ++i) {
-        const int ca = std::tolower(static_cast<unsigned char>(a[i]));
-        const int cb = std::tolower(static_cast<unsigned char>(b[i]));
+        const int ca = fold(a[i]);
+        const int cb = fold(b[i]);
         if (ca != cb)
             return ca < cb;
     }
@@ -133,14 +137,16 @@ ListBox::ListBox(Form& form, std::string name, bool sorted, int index)
 
 int ListBox::addItem(const std::string& text, std::int32_t itemData)
 {
-    auto at = rows_.end();
+    auto at = order_.end();
     if (sorted_) {
         // Equal rows keep the order in which they came.
-        at = std::upper_bound(rows_.begin(), rows_.end(), text,
-            [](const std::string& t, const Row& r) { return rowTextLess(t, r.text); });
+        at = std::upper_bound(order_.begin(), order_.end(), text, [this](const std::string& t, int k) {
+            return rowTextLess(t, rows_[static_cast<size_t>(k)].text);
+        });
     }
-    const int position = static_cast<int>(at - rows_.begin());
-    rows_.insert(at, Row{text, itemData});
+    const int position = static_cast<int>(at - order_.begin());
+    rows_.push_back(Row{text, itemData});
+    order_.insert(at, static_cast<int>(rows_.size()) - 1);
     if (listIndex_ >= position)
         ++listIndex_;
     if (ControlObserver* o = observer())
@@ -152,12 +158,13 @@ void ListBox::setItemData(int row, std::int32_t data)
 {
     if (row < 0 || row >= listCount())
         return;
-    rows_[static_cast<size_t>(row)].itemData = data;
+    rows_[static_cast<size_t>(order_[static_cast<size_t>(row)])].itemData = data;
 }
 
 void ListBox::clear()
 {
     rows_.clear();
+    order_.clear();
     listIndex_ = -1;
     topIndex_ = 0;
     if (ControlObserver* o = observer())

@@ -110,9 +110,9 @@ public:
     ListBox(Form& form, std::string name, bool sorted = false, int index = -1);
 
     bool sorted() const { return sorted_; }
-    int listCount() const { return static_cast<int>(rows_.size()); }
-    const Row& row(int index) const { return rows_.at(static_cast<size_t>(index)); }
-    const std::vector<Row>& rows() const { return rows_; }
+    int listCount() const { return static_cast<int>(order_.size()); }
+    // The row at a place of the display order.
+    const Row& row(int index) const { return rows_.at(static_cast<size_t>(order_.at(static_cast<size_t>(index)))); }
 
     // Adds a row and gives its place, which a sorted list chooses itself.
     int addItem(const std::string& text, std::int32_t itemData = 0);
@@ -128,7 +128,10 @@ public:
 
 private:
     bool sorted_;
+    // Rows in arrival order, and their display order: a sorted insert then
+    // moves small integers, not rows, which keeps 2000 candidates quick.
     std::vector<Row> rows_;
+    std::vector<int> order_;
     int listIndex_ = -1;
     int topIndex_ = 0;
 };
