@@ -1,6 +1,7 @@
 // A pair that passed the eye count: the vetoes, the closeness score, the
 // gender filter, and its place among the candidates.
 
+#include "Closeness.h"
 #include "core/Frm_ProgramOptions.h"
 #include "core/Frm_Vistrel.h"
 #include "core/Numbers.h"
@@ -20,39 +21,6 @@ double throughText(double x)
 {
     const double hundredths = std::round(x * 100) / 100;
     return hundredths == x ? x : Val(Str(x));
-}
-
-// The closeness of one eye, 0 for a perfect fit.
-double eyeScore(const Variant& flag, double S, double C, std::int16_t A, double Q, double s, double c,
-    std::int16_t a, double addTerm, bool withAdd, double axisDeviation)
-{
-    if (flag.string() == " -Equiv") {
-        // The pair's side keeps the minus: sphere plus half the cylinder's size.
-        return std::fabs(Q - (s - c * 0.5)) / 0.25 + addTerm;
-    }
-    const double sphereTerm = std::fabs(S - s) / 0.25;
-    const double cylinderTerm = std::fabs(C - c) / 0.25;
-    int f = A;
-    int g = a;
-    if (axisDeviation < std::abs(f - g)) {
-        if (f <= g)
-            f += 180;
-        else
-            g += 180;
-    }
-    const std::int16_t d = AxisDifference(static_cast<std::int16_t>(f), static_cast<std::int16_t>(g));
-    double penalty = 0;
-    if (std::fabs(C) <= 2)
-        penalty = ToIntegerOr(d * 0.25, 0);
-    else if (std::fabs(C) <= 3)
-        penalty = ToIntegerOr(d * 0.5, 0);
-    else
-        penalty = d;
-    if (std::fabs(c) < 0.26)
-        penalty = 0;
-    if (withAdd)
-        return (sphereTerm + cylinderTerm + penalty + addTerm) / 4;
-    return (sphereTerm + cylinderTerm + penalty) / 3;
 }
 
 }  // namespace
@@ -121,20 +89,14 @@ void Frm_Vistrel::MatchFound(std::int16_t& i)
         const double pairAdd = throughText(left ? Inv_LeftAdd[r] : Inv_RightAdd[r]);
         const double addTerm = plusBifocals ? std::fabs((left ? addL : addR) - pairAdd) / 0.25 : 0;
         if (left)
-            return eyeScore(LeftMatchFlag, LeftSphereRead.number(), LeftCylinderRead.number(), LeftAxisRead,
+            return eyeScore(LeftMatchFlag.string() == " -Equiv", LeftSphereRead.number(), LeftCylinderRead.number(), LeftAxisRead,
                 LeftSphereEqu, throughText(Inv_LeftSphere[r]), throughText(Inv_LeftCylinder[r]), Inv_LeftAxis[r],
                 addTerm, plusBifocals, axisDeviation);
-        return eyeScore(RightMatchFlag, RightSphereRead.number(), RightCylinderRead.number(), RightAxisRead,
+        return eyeScore(RightMatchFlag.string() == " -Equiv", RightSphereRead.number(), RightCylinderRead.number(), RightAxisRead,
             RightSphereEqu, throughText(Inv_RightSphere[r]), throughText(Inv_RightCylinder[r]), Inv_RightAxis[r],
             addTerm, plusBifocals, axisDeviation);
     };
-    double leftScore = score(true);
-    double rightScore = score(false);
-    if (RightOnlyValue)
-        leftScore = rightScore;
-    if (LeftOnlyValue)
-        rightScore = leftScore;
-    const double closeness = Int((std::fabs(rightScore) + std::fabs(leftScore)) / 2 * 10) / 10;
+    const double closeness = pairCloseness(score(true), score(false), LeftOnlyValue, RightOnlyValue);
 
     // V7: gender.
     const std::string gender = genderCodeText(Inv_Gender[r]);
