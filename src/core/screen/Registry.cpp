@@ -133,12 +133,17 @@ VarBinding table(std::vector<Variant>& t, int first)
         [](Variant& v, const std::string& s) { v = parseVariant(s); });
 }
 
-VarBinding table(std::vector<double>& t, const std::vector<bool>& written, int first)
+VarBinding table(std::vector<double>& t, std::vector<bool>& written, int first)
 {
     VarBinding b = table(t, first);
     b.get = [&t, &written, first](int i) {
         const auto at = static_cast<size_t>(i - first);
         return written[at] ? Variant(t[at]) : Variant();
+    };
+    b.set = [&t, &written, first](int i, const std::string& s) {
+        const auto at = static_cast<size_t>(i - first);
+        t[at] = Val(s);
+        written[at] = true;
     };
     return b;
 }

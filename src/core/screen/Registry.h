@@ -41,7 +41,7 @@ VarBinding table(std::vector<double>& t, int first);
 VarBinding table(std::vector<std::string>& t, int first);
 VarBinding table(std::vector<Variant>& t, int first);
 // A table of numbers whose rows read as empty until they are written.
-VarBinding table(std::vector<double>& t, const std::vector<bool>& written, int first);
+VarBinding table(std::vector<double>& t, std::vector<bool>& written, int first);
 }  // namespace bind
 
 // The text a printed value gets: Booleans True/False, numbers shortest,
