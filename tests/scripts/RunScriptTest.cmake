@@ -85,6 +85,14 @@ endif()
 if(EXISTS ${case}.stderr.expected)
     compare(stderr ${case}.stderr.expected ${WORK}/stderr.txt)
 endif()
+# Files the station writes: NAME.files/ mirrors the run's folder, so
+# NAME.files/docs/Vistrel/DiagnosticFile.txt is compared with that file.
+if(IS_DIRECTORY ${case}.files)
+    file(GLOB_RECURSE expected_files RELATIVE ${case}.files ${case}.files/*)
+    foreach(relative ${expected_files})
+        compare("file ${relative}" ${case}.files/${relative} ${WORK}/${relative})
+    endforeach()
+endif()
 
 if(failures)
     # The details verbatim (FATAL_ERROR would re-wrap the diff), then the verdict.
