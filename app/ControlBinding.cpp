@@ -1,0 +1,117 @@
+#include "ControlBinding.h"
+
+#include "ColorMapping.h"
+#include "TextConversion.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+namespace vistrel::qt {
+
+ControlBinding::ControlBinding(Control& control, QWidget* widget, const Metrics& metrics)
+    : control_(&control), widget_(widget), metrics_(metrics)
+{
+    widget->setObjectName(QString::fromStdString(control.fullName()));
+    control.setObserver(this);
+}
+
+ControlBinding::~ControlBinding()
+{
+    if (control_->observer() == this)
+        control_->setObserver(nullptr);
+}
+
+void ControlBinding::applyAll()
+{
+    for (Prop p : {Prop::Geometry, Prop::Font, Prop::BackColor, Prop::Enabled, Prop::ToolTipText, Prop::Caption})
+        apply(p);
+    applyAllOwn();
+    apply(Prop::Visible);
+}
+
+void ControlBinding::controlChanged(Control& /*control*/, Prop prop)
+{
+    if (!widget_)
+        return;
+    apply(prop);
+}
+
+void ControlBinding::apply(Prop prop)
+{
+    QWidget* w = widget_;
+    switch (prop) {
+    case Prop::Visible:
+        w->setVisible(control_->visible());
+        break;
+    case Prop::Enabled:
+        w->setEnabled(control_->enabled());
+        break;
+    case Prop::ToolTipText:
+        w->setToolTip(toWidgetLines(control_->toolTipText()));
+        break;
+    case Prop::Geometry:
+        w->setGeometry(metrics_.rect(*control_));
+        break;
+    case Prop::Font:
+        w->setFont(metrics_.font(control_->font(), fixedPitch()));
+        break;
+    case Prop::BackColor:
+    case Prop::ForeColor:
+        applyColors();
+        break;
+    case Prop::TabIndex:
+        if (onTabIndexChanged)
+            onTabIndexChanged();
+        break;
+    default:
+        break;
+    }
+}
+
+void ControlBinding::applyColors()
+{
+    QWidget* w = widget_;
+    const QPalette base = w->parentWidget() ? QApplication::palette(w) : QApplication::palette();
+    w->setPalette(controlPalette(base, backRole(), foreRole(), control_->backColor(), control_->foreColor()));
+    if (fillsBackground())
+        w->setAutoFillBackground(true);
+}
+
+void ControlBinding::forwardClicks(QObject* target, bool clicks, bool doubleClicks)
+{
+    clickTarget_ = target;
+    forwardClick_ = clicks;
+    forwardDblClick_ = doubleClicks;
+    target->installEventFilter(this);
+}
+
+bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != clickTarget_)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            pressed_ = true;
+        break;
+    case QEvent::MouseButtonRelease: {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        const bool wasPressed = pressed_;
+        pressed_ = false;
+        auto* target = qobject_cast<QWidget*>(watched);
+        const bool inside = !target || target->rect().contains(mouse->position().toPoint());
+        if (forwardClick_ && wasPressed && inside && mouse->button() == Qt::LeftButton && control_->enabled())
+            control_->click();
+        break;
+    }
+    case QEvent::MouseButtonDblClick:
+        if (forwardDblClick_ && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton && control_->enabled())
+            control_->dblClick();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace vistrel::qt

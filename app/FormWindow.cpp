@@ -1,0 +1,220 @@
+#include "FormWindow.h"
+
+#include "TextConversion.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <functional>
+
+namespace vistrel::qt {
+
+namespace {
+
+// The close box asks the core; the window stays until the core hides it.
+class MainFormWindow : public QMainWindow {
+public:
+    MainFormWindow(std::function<void()> closeBox, QWidget* parent)
+        : QMainWindow(parent), closeBox_(std::move(closeBox))
+    {
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        event->ignore();
+        closeBox_();
+    }
+
+private:
+    std::function<void()> closeBox_;
+};
+
+class DialogFormWindow : public QDialog {
+public:
+    DialogFormWindow(std::function<void()> closeBox, QWidget* parent)
+        : QDialog(parent), closeBox_(std::move(closeBox))
+    {
+        setSizeGripEnabled(false);
+    }
+
+    // Escape closes nothing by itself: the screens have their own buttons.
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        event->ignore();
+        closeBox_();
+    }
+
+private:
+    std::function<void()> closeBox_;
+};
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, Kind kind, const Metrics& metrics, QWidget* parent)
+    : form_(form), kind_(kind), metrics_(metrics), binder_(metrics)
+{
+    auto closeBox = [this] { form_.closeBox(); };
+    scroll_ = new QScrollArea;
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(false);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    canvas_ = new QWidget;
+    canvas_->setObjectName(QString::fromStdString(form.name()));
+    canvas_->setAutoFillBackground(true);
+    scroll_->setWidget(canvas_);
+
+    if (kind == Kind::MainWindow) {
+        auto* main = new MainFormWindow(closeBox, parent);
+        main->setCentralWidget(scroll_);
+        menus_.build(form.controls(), main->menuBar());
+        window_ = main;
+    } else {
+        auto* dialog = new DialogFormWindow(closeBox, parent);
+        dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        auto* layout = new QVBoxLayout(dialog);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(scroll_);
+        window_ = dialog;
+    }
+    window_->setObjectName(QString::fromStdString(form.name()) + QLatin1String("Window"));
+
+    binder_.bind(form, canvas_);
+    for (const auto& b : binder_.bindings())
+        b->onTabIndexChanged = [this] { scheduleTabOrder(); };
+    updateTabOrder();
+
+    form.setObserver(this);
+    applyCaption();
+    applyGeometry();
+}
+
+FormWindow::~FormWindow()
+{
+    form_.setObserver(nullptr);
+    delete window_;
+}
+
+void FormWindow::formChanged(Form& /*form*/)
+{
+    if (!window_)
+        return;
+    applyCaption();
+    applyGeometry();
+    applyVisibility();
+}
+
+void FormWindow::applyCaption()
+{
+    window_->setWindowTitle(fromCore(form_.caption()));
+}
+
+void FormWindow::applyGeometry()
+{
+    const bool menuBar = kind_ == Kind::MainWindow && MenuBuilder::hasMenus(form_.controls());
+    QSize client = metrics_.clientSize(form_.width(), form_.height(), menuBar);
+    // The desktop's window frame is not the one the screens were drawn
+    // for: controls that reach a little past the edge still get room.
+    constexpr int Slack = 48;
+    for (const Control* c : form_.controls()) {
+        if (c->container() || c->kind() == ControlKind::Menu || c->kind() == ControlKind::Timer || !c->visible())
+            continue;
+        const QRect r = metrics_.rect(*c);
+        if (r.right() < client.width() + Slack)
+            client.setWidth(std::max(client.width(), r.right() + 3));
+        if (r.bottom() < client.height() + Slack)
+            client.setHeight(std::max(client.height(), r.bottom() + 3));
+    }
+    if (canvas_->size() != client)
+        canvas_->resize(client);
+    QSize outer = client;
+    if (auto* main = qobject_cast<QMainWindow*>(window_.data()))
+        outer.rheight() += main->menuBar()->sizeHint().height();
+    if (window_->size() != outer)
+        window_->resize(outer);
+    if (form_.left() != 0 || form_.top() != 0)
+        window_->move(metrics_.px(form_.left()), metrics_.px(form_.top()));
+}
+
+void FormWindow::applyVisibility()
+{
+    if (form_.visible()) {
+        const Qt::WindowModality modality = form_.modal() ? Qt::ApplicationModal : Qt::NonModal;
+        if (window_->isVisible() && window_->windowModality() != modality)
+            window_->hide();  // modality changes only while hidden
+        if (!window_->isVisible()) {
+            window_->setWindowModality(modality);
+            window_->show();
+        }
+        window_->raise();
+        window_->activateWindow();
+        if (!shownByCore_)
+            focusFirst();
+        shownByCore_ = true;
+        activateTimers();
+    } else {
+        shownByCore_ = false;
+        if (window_->isVisible())
+            window_->hide();
+        emit hidden();
+    }
+}
+
+void FormWindow::activateTimers()
+{
+    if (timersActive_)
+        return;
+    timersActive_ = true;
+    for (const auto& t : binder_.timers())
+        t->setActive(true);
+}
+
+void FormWindow::focusFirst()
+{
+    // A screen coming up has the caret in its first control by TabIndex.
+    const ControlBinding* first = nullptr;
+    for (const auto& b : binder_.bindings()) {
+        QWidget* w = b->widget();
+        if (!b->takesFocus() || !w->isVisibleTo(window_) || !w->isEnabled())
+            continue;
+        if (!first || b->control().tabIndex() < first->control().tabIndex())
+            first = b.get();
+    }
+    if (first)
+        first->widget()->setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::scheduleTabOrder()
+{
+    // A reversal changes many tab indexes at once: chain once afterwards.
+    if (tabOrderPending_)
+        return;
+    tabOrderPending_ = true;
+    QTimer::singleShot(0, this, [this] {
+        tabOrderPending_ = false;
+        updateTabOrder();
+    });
+}
+
+void FormWindow::updateTabOrder()
+{
+    std::vector<ControlBinding*> focusable;
+    for (const auto& b : binder_.bindings())
+        if (b->takesFocus())
+            focusable.push_back(b.get());
+    std::stable_sort(focusable.begin(), focusable.end(),
+        [](const ControlBinding* a, const ControlBinding* b) { return a->control().tabIndex() < b->control().tabIndex(); });
+    for (size_t i = 1; i < focusable.size(); ++i)
+        QWidget::setTabOrder(focusable[i - 1]->widget(), focusable[i]->widget());
+}
+
+}  // namespace vistrel::qt

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "QtPrinter.h"
+#include "QtSerialPort.h"
+
+#include "platform/Platform.h"
+
+#include <QElapsedTimer>
+#include <QStringList>
+
+#include <functional>
+
+class QMessageBox;
+class QWidget;
+
+namespace vistrel::qt {
+
+class StationWindows;
+
+// Something that watches the dialogs the station opens: the screenshot
+// mode takes their pictures and closes them.
+class DialogWatcher {
+public:
+    virtual ~DialogWatcher() = default;
+    virtual void messageShown(QMessageBox& box) = 0;
+    virtual void modalShown(Form& form, QWidget* window) = 0;
+};
+
+// The platform on the desktop, with Qt.
+class QtPlatform : public Platform {
+public:
+    // arguments: the command line after the program name, the window
+    // program's own options taken out.
+    explicit QtPlatform(QStringList arguments = {});
+    ~QtPlatform() override;
+
+    void setWindows(StationWindows* windows) { windows_ = windows; }
+    void setDialogWatcher(DialogWatcher* watcher) { watcher_ = watcher; }
+    // The shortest time between two real passes of doEvents.
+    void setEventPumpInterval(int ms) { pumpIntervalMs_ = ms; }
+
+    void messageBox(const std::string& title, const std::string& text, MsgIcon icon) override;
+    void runModal(Form& form) override;
+    void doEvents() override;
+
+    SerialPort& serialPort() override { return serial_; }
+    Printer& printer() override { return printer_; }
+    std::vector<std::string> printerNames() override;
+    void shell(const std::string& what) override;
+    DateTime now() override;
+
+    std::string documentsFolder() override;
+    std::string sharedDataFolder() override;
+    std::string programFolder() override;
+    std::string nativePath(const std::string& path) override;
+    char pathSeparator() const override;
+    void setFileAttributes(const std::string& path, int attributes) override;
+
+    std::string commandLine() override;
+    [[noreturn]] void endProcess() override;
+
+    // Starts a program or opens a document; separate so tests can watch it.
+    std::function<void(const QString& file)> openDocument;
+    std::function<void(const QString& command)> startProgram;
+
+private:
+    QWidget* activeWindow() const;
+
+    QStringList arguments_;
+    StationWindows* windows_ = nullptr;
+    DialogWatcher* watcher_ = nullptr;
+    QtSerialPort serial_;
+    QtPrinter printer_;
+    QElapsedTimer pumpClock_;
+    int pumpIntervalMs_ = 30;
+};
+
+// What a shell command asks for: a document to open (an existing file, or
+// the file given to the text editor) or a command line to start.
+struct ShellRequest {
+    QString document;
+    QString command;
+};
+ShellRequest parseShellRequest(const QString& what, const std::function<QString(const QString&)>& mapPath);
+
+}  // namespace vistrel::qt

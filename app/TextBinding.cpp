@@ -1,0 +1,101 @@
+#include "TextBinding.h"
+
+#include "TextConversion.h"
+
+#include <algorithm>
+
+namespace vistrel::qt {
+
+namespace {
+
+QWidget* makeEditor(const TextBox& box, QWidget* parent)
+{
+    if (box.multiLine())
+        return new QPlainTextEdit(parent);
+    return new QLineEdit(parent);
+}
+
+}  // namespace
+
+TextBinding::TextBinding(TextBox& box, QWidget* parent, const Metrics& metrics)
+    : ControlBinding(box, makeEditor(box, parent), metrics), box_(box)
+{
+    if (box.multiLine()) {
+        multi_ = static_cast<QPlainTextEdit*>(widget());
+        multi_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+        connect(multi_, &QPlainTextEdit::textChanged, this, &TextBinding::multiLineEdited);
+        forwardClicks(multi_->viewport());
+    } else {
+        line_ = static_cast<QLineEdit*>(widget());
+        connect(line_, &QLineEdit::textEdited, this, &TextBinding::edited);
+        forwardClicks(line_);
+    }
+}
+
+void TextBinding::applyAllOwn()
+{
+    apply(Prop::Locked);
+    apply(Prop::Text);
+}
+
+void TextBinding::apply(Prop prop)
+{
+    switch (prop) {
+    case Prop::Text:
+        showCoreText();
+        break;
+    case Prop::Locked:
+        if (line_)
+            line_->setReadOnly(control().locked());
+        else
+            multi_->setReadOnly(control().locked());
+        break;
+    default:
+        ControlBinding::apply(prop);
+    }
+}
+
+void TextBinding::edited(const QString& text)
+{
+    editing_ = true;
+    typedCursor_ = line_->cursorPosition();
+    typedLength_ = static_cast<int>(text.size());
+    box_.setText(toCore(text));
+    showCoreText();
+    editing_ = false;
+}
+
+void TextBinding::multiLineEdited()
+{
+    if (mirroring())
+        return;
+    editing_ = true;
+    box_.setText(toCoreLines(multi_->toPlainText()));
+    showCoreText();
+    editing_ = false;
+}
+
+void TextBinding::showCoreText()
+{
+    Mirror mirror(*this);
+    if (multi_) {
+        const QString text = toWidgetLines(box_.text());
+        if (multi_->toPlainText() != text)
+            multi_->setPlainText(text);
+        return;
+    }
+    const QString text = fromCore(box_.text());
+    if (line_->text() == text)
+        return;
+    const QSignalBlocker block(line_);
+    line_->setText(text);
+    if (editing_) {
+        // A rewrite of what was just typed: the caret moves by as much as
+        // the text grew or shrank, so typing runs on where it was.
+        const int length = static_cast<int>(text.size());
+        const int cursor = std::clamp(typedCursor_ + length - typedLength_, 0, length);
+        line_->setCursorPosition(cursor);
+    }
+}
+
+}  // namespace vistrel::qt
