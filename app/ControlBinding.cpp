@@ -27,6 +27,9 @@ void ControlBinding::applyAll()
         apply(p);
     applyAllOwn();
     apply(Prop::Visible);
+    // Out of the Tab chain, still reachable by the mouse.
+    if (takesFocus() && !control_->tabStop())
+        widget_->setFocusPolicy(Qt::ClickFocus);
 }
 
 void ControlBinding::controlChanged(Control& /*control*/, Prop prop)

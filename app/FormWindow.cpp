@@ -184,7 +184,7 @@ void FormWindow::focusFirst()
     const ControlBinding* first = nullptr;
     for (const auto& b : binder_.bindings()) {
         QWidget* w = b->widget();
-        if (!b->takesFocus() || !w->isVisibleTo(window_) || !w->isEnabled())
+        if (!b->takesFocus() || !b->control().tabStop() || !w->isVisibleTo(window_) || !w->isEnabled())
             continue;
         if (!first || b->control().tabIndex() < first->control().tabIndex())
             first = b.get();
@@ -209,7 +209,7 @@ void FormWindow::updateTabOrder()
 {
     std::vector<ControlBinding*> focusable;
     for (const auto& b : binder_.bindings())
-        if (b->takesFocus())
+        if (b->takesFocus() && b->control().tabStop())
             focusable.push_back(b.get());
     std::stable_sort(focusable.begin(), focusable.end(),
         [](const ControlBinding* a, const ControlBinding* b) { return a->control().tabIndex() < b->control().tabIndex(); });

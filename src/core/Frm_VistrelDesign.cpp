@@ -347,6 +347,26 @@ void Frm_Vistrel::design()
     Lbl_NetworkJournalDown.setForeColor(colors::Red);
     Lbl_NetworkJournalDown.setVisible(false);
 
+    // ---- Keyboard order: person, age, the eyes (set by the tab-order
+    // operations), then the search and the results. Spin buttons and fields
+    // that only show a result are left out of the Tab chain.
+    Txt_PersonNumber.setTabIndex(1);
+    Txt_Age.setTabIndex(2);
+    Cmd_Search.setTabIndex(30);
+    Lst_LeftSelection.setTabIndex(31);
+    Cmd_CalculateDataClear.setTabIndex(32);
+    for (CommandButton* spin : {&Cmd_Patient1Up, &Cmd_Patient1Down, &Cmd_Patient10Up, &Cmd_Patient10Down,
+             &Cmd_Patient100Up, &Cmd_Patient100Down, &Cmd_Patient1000Up, &Cmd_Patient1000Down,
+             &Cmd_Patient10000Up, &Cmd_Patient10000Down, &Cmd_Age1Up, &Cmd_Age1Down, &Cmd_Age10Up,
+             &Cmd_Age10Down, &Cmd_SphereLeftUp, &Cmd_SphereLeftDown, &Cmd_CylinderLeftUp, &Cmd_CylinderLeftDown,
+             &Cmd_AddLeftUp, &Cmd_AddLeftDown, &Cmd_SphereRightUp, &Cmd_SphereRightDown, &Cmd_CylinderRightUp,
+             &Cmd_CylinderRightDown, &Cmd_AddRightUp, &Cmd_AddRightDown, &Cmd_LeftConfidenceUP,
+             &Cmd_LeftConfidenceDOWN, &Cmd_RightConfidenceUP, &Cmd_RightConfidenceDOWN})
+        spin->setTabStop(false);
+    for (TextBox* shown : {&Txt_Left_AMP, &Txt_Right_AMP, &Txt_Status, &Txt_Used, &Txt_UnmatchedCount,
+             &Txt_LeftCutBackCount, &Txt_RightCutBackCount})
+        shown->setTabStop(false);
+
     // ---- Practice play ----
     place(Lbl_PracticePlay, nullptr, 3780, 10440, 1500, 255, "Practice Play");
     place(Img_Backwards, nullptr, 5340, 10410, 360, 300, "<");

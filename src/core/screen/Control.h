@@ -110,6 +110,9 @@ public:
 
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index);
+    // Whether the Tab key stops here; spin buttons and shown-only fields don't.
+    bool tabStop() const { return tabStop_; }
+    void setTabStop(bool on) { tabStop_ = on; }
 
     const Font& font() const { return font_; }
     void setFont(const Font& font);
@@ -145,6 +148,7 @@ private:
     std::string toolTip_;
     int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
     int tabIndex_ = 0;
+    bool tabStop_ = true;
     Font font_;
 };
 

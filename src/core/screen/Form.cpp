@@ -11,6 +11,9 @@ Form::Form(Station& station, std::string name) : station_(&station), name_(std::
 void Form::adopt(Control& control)
 {
     controls_.push_back(&control);
+    // Controls are tabbed through in the order they were made, after the
+    // few whose place in the order a screen gives explicitly.
+    control.setTabIndex(1000 + static_cast<int>(controls_.size()));
     byName_[control.fullName()] = &control;
     if (control.index() >= 0)
         arrays_[control.name()] = true;
