@@ -1,20 +1,13 @@
 #pragma once
 
-#include "screen/Screen.h"
+#include "InfoScreen.h"
 
 namespace vistrel {
 
 // About the station: its name and version.
-class Frm_About : public Screen {
+class Frm_About : public InfoScreen {
 public:
-    explicit Frm_About(Station& station);
-
-    Label Lbl_Text{*this, "Lbl_Text"};
-    CommandButton Cmd_Exit{*this, "Cmd_Exit"};
-
-    bool Showing = false;
-
-    void Cmd_Exit_Click();
+    explicit Frm_About(Station& station) : InfoScreen(station, "Frm_About", "About Vistrel") {}
 };
 
 }  // namespace vistrel

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "screen/Screen.h"
+#include "InfoScreen.h"
 
 namespace vistrel {
 
 // Tells where updates of the station come from.
-class Frm_CheckForUpdates : public Screen {
+class Frm_CheckForUpdates : public InfoScreen {
 public:
-    explicit Frm_CheckForUpdates(Station& station);
-
-    Label Lbl_Text{*this, "Lbl_Text"};
-    CommandButton Cmd_Exit{*this, "Cmd_Exit"};
-
-    bool Showing = false;
-
-    void Cmd_Exit_Click();
+    explicit Frm_CheckForUpdates(Station& station) : InfoScreen(station, "Frm_CheckForUpdates", "Check for Updates") {}
 };
 
 }  // namespace vistrel

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "screen/Screen.h"
+#include "InfoScreen.h"
 
 namespace vistrel {
 
-// Help on the areas of the main screen: opens the help documents.
-class Frm_HelpAreas : public Screen {
+// Help on the areas of the main screen.
+class Frm_HelpAreas : public InfoScreen {
 public:
-    explicit Frm_HelpAreas(Station& station);
-
-    Label Lbl_Text{*this, "Lbl_Text"};
-    CommandButton Cmd_Exit{*this, "Cmd_Exit"};
-
-    bool Showing = false;
-
-    void Cmd_Exit_Click();
+    explicit Frm_HelpAreas(Station& station) : InfoScreen(station, "Frm_HelpAreas", "Help") {}
 };
 
 }  // namespace vistrel

@@ -368,6 +368,27 @@ public:
     std::vector<double> Meas_RightSphere, Meas_RightCylinder, Meas_RightAxis, Meas_RightAdd, Meas_RightSphereEqu;
     std::vector<bool> Meas_Written;
 
+    // The entry fields and measurement state of one eye, for the handlers
+    // that are twins but for the eye they work on.
+    struct EyeEntry {
+        TextBox& sphere;
+        TextBox& cylinder;
+        TextBox& axis;
+        TextBox& add;
+        TextBox& readingPower;
+        TextBox& sphereEqu;
+        TextBox& cutBackCount;
+        Variant& sphereRead;
+        Variant& cylinderRead;
+        Variant& readingPowerRead;
+        double& equivalent;
+        std::int16_t& axisRead;
+        bool& isCutback;
+        std::string& sphereSave;
+        std::string& cylinderSave;
+    };
+    EyeEntry eyeEntry(bool left);
+
     // ---- Start-up and end ----
     void Form_Load();
     void ExitProgram_Click();
@@ -518,6 +539,10 @@ public:
     void WriteAutorefractorPrescription();
 
 private:
+    void sphereOrCylinderChanged(const EyeEntry& eye, bool sphere);
+    void addChanged(const EyeEntry& eye);
+    void axisChanged(const EyeEntry& eye);
+    void readingPowerChanged(const EyeEntry& eye);
     void wireHandlers();
     void bindRegistry();
     void design();

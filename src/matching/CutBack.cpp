@@ -13,20 +13,10 @@ namespace vistrel {
 
 namespace {
 
-struct CutBackEye {
-    TextBox& sphere;
-    TextBox& cylinder;
-    TextBox& count;
-    bool& isCutback;
-    std::string& sphereSave;
-    std::string& cylinderSave;
-    Variant& sphereRead;
-    Variant& cylinderRead;
-    double& equivalent;
-};
+using EyeEntry = Frm_Vistrel::EyeEntry;
 
 // One step; skipped without a word when it would take more than is left.
-void cutBackStep(CutBackEye eye, double amount)
+void cutBackStep(const EyeEntry& eye, double amount)
 {
     if (std::fabs(amount) > std::fabs(Val(eye.cylinder.text())))
         return;
@@ -39,13 +29,13 @@ void cutBackStep(CutBackEye eye, double amount)
     eye.cylinderRead = Variant(Val(eye.cylinder.text()));
     eye.sphere.setText(Format(eye.equivalent - Val(eye.cylinder.text()) * 0.5, "0.00"));
     eye.sphereRead = Variant(Val(eye.sphere.text()));
-    eye.count.setText(Format(Val(eye.count.text()) + 1, "000"));
+    eye.cutBackCount.setText(Format(Val(eye.cutBackCount.text()) + 1, "000"));
 }
 
-void resetCutBack(CutBackEye eye)
+void resetCutBack(const EyeEntry& eye)
 {
     if (eye.isCutback) {
-        eye.count.setText("000");
+        eye.cutBackCount.setText("000");
         eye.cylinder.setText(eye.cylinderSave);
         eye.sphere.setText(eye.sphereSave);
         eye.cylinderRead = Variant(Val(eye.cylinder.text()));
@@ -58,9 +48,7 @@ void resetCutBack(CutBackEye eye)
 
 void Frm_Vistrel::Cmd_LeftCutBackSearch_Click()
 {
-    cutBackStep({Txt_Sphere_Left, Txt_Cylinder_Left, Txt_LeftCutBackCount, LeftIsCutback, Txt_Sphere_LeftSave,
-                    Txt_Cylinder_LeftSave, LeftSphereRead, LeftCylinderRead, LeftSphereEqu},
-        Val(options().Txt_CutBack.text()));
+    cutBackStep(eyeEntry(true), Val(options().Txt_CutBack.text()));
     if (!SkipSearch)
         Search_Click();
     SkipSearch = false;
@@ -69,9 +57,7 @@ void Frm_Vistrel::Cmd_LeftCutBackSearch_Click()
 // The right eye searches plainly: it neither reads nor clears SkipSearch.
 void Frm_Vistrel::Cmd_RightCutBackSearch_Click()
 {
-    cutBackStep({Txt_Sphere_Right, Txt_Cylinder_Right, Txt_RightCutBackCount, RightIsCutback, Txt_Sphere_RightSave,
-                    Txt_Cylinder_RightSave, RightSphereRead, RightCylinderRead, RightSphereEqu},
-        Val(options().Txt_CutBack.text()));
+    cutBackStep(eyeEntry(false), Val(options().Txt_CutBack.text()));
     Search_Click();
 }
 
@@ -84,14 +70,12 @@ void Frm_Vistrel::Cmd_BothCutBackSearch_Click()
 
 void Frm_Vistrel::Cmd_LeftResetCutBack_Click()
 {
-    resetCutBack({Txt_Sphere_Left, Txt_Cylinder_Left, Txt_LeftCutBackCount, LeftIsCutback, Txt_Sphere_LeftSave,
-        Txt_Cylinder_LeftSave, LeftSphereRead, LeftCylinderRead, LeftSphereEqu});
+    resetCutBack(eyeEntry(true));
 }
 
 void Frm_Vistrel::Cmd_RightResetCutBack_Click()
 {
-    resetCutBack({Txt_Sphere_Right, Txt_Cylinder_Right, Txt_RightCutBackCount, RightIsCutback, Txt_Sphere_RightSave,
-        Txt_Cylinder_RightSave, RightSphereRead, RightCylinderRead, RightSphereEqu});
+    resetCutBack(eyeEntry(false));
 }
 
 void Frm_Vistrel::Cmd_BothReset_Click()

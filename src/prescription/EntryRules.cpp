@@ -22,114 +22,73 @@ std::string netReadingPower(double add, double equivalent)
 
 // ---- Sphere, cylinder, axis, Add, reading power ----
 
-void Frm_Vistrel::Txt_Sphere_Left_Change()
+Frm_Vistrel::EyeEntry Frm_Vistrel::eyeEntry(bool left)
 {
-    if (JumpBack)
-        return;
-    Calculate_AMP();
-    if (LeftIsCutback)
-        return;
-    LeftSphereRead = Variant(Val(Txt_Sphere_Left.text()));
-    LeftSphereEqu = LeftCylinderRead.number() * 0.5 + LeftSphereRead.number();
-    Txt_Sphere_Equ_Left.setText(Format(LeftSphereEqu, "0.00"));
-    Txt_LeftReadingPower.setText(netReadingPower(Val(Txt_LeftAdd.text()), LeftSphereEqu));
-    DisplayPrescription();
+    if (left)
+        return {Txt_Sphere_Left, Txt_Cylinder_Left, Txt_Axis_Left, Txt_LeftAdd, Txt_LeftReadingPower,
+            Txt_Sphere_Equ_Left, Txt_LeftCutBackCount, LeftSphereRead, LeftCylinderRead, LeftReadingPower,
+            LeftSphereEqu, LeftAxisRead, LeftIsCutback, Txt_Sphere_LeftSave, Txt_Cylinder_LeftSave};
+    return {Txt_Sphere_Right, Txt_Cylinder_Right, Txt_Axis_Right, Txt_RightAdd, Txt_RightReadingPower,
+        Txt_Sphere_Equ_Right, Txt_RightCutBackCount, RightSphereRead, RightCylinderRead, RightReadingPower,
+        RightSphereEqu, RightAxisRead, RightIsCutback, Txt_Sphere_RightSave, Txt_Cylinder_RightSave};
 }
 
-void Frm_Vistrel::Txt_Cylinder_Left_Change()
+// During a cut-back trial the stored values, the equivalent and the captions
+// stay at the prescription as entered; only the levels follow the fields.
+void Frm_Vistrel::sphereOrCylinderChanged(const EyeEntry& eye, bool sphere)
 {
     if (JumpBack)
         return;
     Calculate_AMP();
-    if (LeftIsCutback)
+    if (eye.isCutback)
         return;
-    LeftCylinderRead = Variant(Val(Txt_Cylinder_Left.text()));
-    LeftSphereEqu = LeftCylinderRead.number() * 0.5 + LeftSphereRead.number();
-    Txt_Sphere_Equ_Left.setText(Format(LeftSphereEqu, "0.00"));
-    Txt_LeftReadingPower.setText(netReadingPower(Val(Txt_LeftAdd.text()), LeftSphereEqu));
-    DisplayPrescription();
-}
-
-void Frm_Vistrel::Txt_Sphere_Right_Change()
-{
-    if (JumpBack)
-        return;
-    Calculate_AMP();
-    if (RightIsCutback)
-        return;
-    RightSphereRead = Variant(Val(Txt_Sphere_Right.text()));
-    RightSphereEqu = RightCylinderRead.number() * 0.5 + RightSphereRead.number();
-    Txt_Sphere_Equ_Right.setText(Format(RightSphereEqu, "0.00"));
-    Txt_RightReadingPower.setText(netReadingPower(Val(Txt_RightAdd.text()), RightSphereEqu));
-    DisplayPrescription();
-}
-
-void Frm_Vistrel::Txt_Cylinder_Right_Change()
-{
-    if (JumpBack)
-        return;
-    Calculate_AMP();
-    if (RightIsCutback)
-        return;
-    RightCylinderRead = Variant(Val(Txt_Cylinder_Right.text()));
-    RightSphereEqu = RightCylinderRead.number() * 0.5 + RightSphereRead.number();
-    Txt_Sphere_Equ_Right.setText(Format(RightSphereEqu, "0.00"));
-    Txt_RightReadingPower.setText(netReadingPower(Val(Txt_RightAdd.text()), RightSphereEqu));
+    if (sphere)
+        eye.sphereRead = Variant(Val(eye.sphere.text()));
+    else
+        eye.cylinderRead = Variant(Val(eye.cylinder.text()));
+    eye.equivalent = eye.cylinderRead.number() * 0.5 + eye.sphereRead.number();
+    eye.sphereEqu.setText(Format(eye.equivalent, "0.00"));
+    eye.readingPower.setText(netReadingPower(Val(eye.add.text()), eye.equivalent));
     DisplayPrescription();
 }
 
 // The Add's handler reads the shown equivalent, not the stored one.
-void Frm_Vistrel::Txt_LeftAdd_Change()
+void Frm_Vistrel::addChanged(const EyeEntry& eye)
 {
     if (JumpBack)
         return;
     Calculate_AMP();
-    Txt_LeftReadingPower.setText(netReadingPower(Val(Txt_LeftAdd.text()), Val(Txt_Sphere_Equ_Left.text())));
+    eye.readingPower.setText(netReadingPower(Val(eye.add.text()), Val(eye.sphereEqu.text())));
     DisplayPrescription();
 }
 
-void Frm_Vistrel::Txt_RightAdd_Change()
+void Frm_Vistrel::axisChanged(const EyeEntry& eye)
 {
     if (JumpBack)
         return;
-    Calculate_AMP();
-    Txt_RightReadingPower.setText(netReadingPower(Val(Txt_RightAdd.text()), Val(Txt_Sphere_Equ_Right.text())));
+    if (auto axis = ToInteger(Val(eye.axis.text())))
+        eye.axisRead = *axis;
     DisplayPrescription();
 }
 
-void Frm_Vistrel::Txt_axis_left_Change()
+void Frm_Vistrel::readingPowerChanged(const EyeEntry& eye)
 {
     if (JumpBack)
         return;
-    if (auto axis = ToInteger(Val(Txt_Axis_Left.text())))
-        LeftAxisRead = *axis;
+    eye.readingPowerRead = Variant(Val(eye.readingPower.text()));
     DisplayPrescription();
 }
 
-void Frm_Vistrel::Txt_Axis_Right_Change()
-{
-    if (JumpBack)
-        return;
-    if (auto axis = ToInteger(Val(Txt_Axis_Right.text())))
-        RightAxisRead = *axis;
-    DisplayPrescription();
-}
-
-void Frm_Vistrel::Txt_LeftReadingPower_Change()
-{
-    if (JumpBack)
-        return;
-    LeftReadingPower = Variant(Val(Txt_LeftReadingPower.text()));
-    DisplayPrescription();
-}
-
-void Frm_Vistrel::Txt_RightReadingPower_Change()
-{
-    if (JumpBack)
-        return;
-    RightReadingPower = Variant(Val(Txt_RightReadingPower.text()));
-    DisplayPrescription();
-}
+void Frm_Vistrel::Txt_Sphere_Left_Change() { sphereOrCylinderChanged(eyeEntry(true), true); }
+void Frm_Vistrel::Txt_Cylinder_Left_Change() { sphereOrCylinderChanged(eyeEntry(true), false); }
+void Frm_Vistrel::Txt_Sphere_Right_Change() { sphereOrCylinderChanged(eyeEntry(false), true); }
+void Frm_Vistrel::Txt_Cylinder_Right_Change() { sphereOrCylinderChanged(eyeEntry(false), false); }
+void Frm_Vistrel::Txt_LeftAdd_Change() { addChanged(eyeEntry(true)); }
+void Frm_Vistrel::Txt_RightAdd_Change() { addChanged(eyeEntry(false)); }
+void Frm_Vistrel::Txt_axis_left_Change() { axisChanged(eyeEntry(true)); }
+void Frm_Vistrel::Txt_Axis_Right_Change() { axisChanged(eyeEntry(false)); }
+void Frm_Vistrel::Txt_LeftReadingPower_Change() { readingPowerChanged(eyeEntry(true)); }
+void Frm_Vistrel::Txt_RightReadingPower_Change() { readingPowerChanged(eyeEntry(false)); }
 
 // "OS:-1.25  -.50x90 Add:2.00": the captions from the fields as they stand.
 void Frm_Vistrel::DisplayPrescription()

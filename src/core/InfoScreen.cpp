@@ -1,10 +1,11 @@
-#include "Frm_CheckForUpdates.h"
+#include "InfoScreen.h"
 
 namespace vistrel {
 
-Frm_CheckForUpdates::Frm_CheckForUpdates(Station& station) : Screen(station, "Frm_CheckForUpdates")
+InfoScreen::InfoScreen(Station& station, const std::string& name, const std::string& caption)
+    : Screen(station, name)
 {
-    setCaption("Check for Updates");
+    setCaption(caption);
     setGeometry(0, 0, 6000, 3000);
     Lbl_Text.setGeometry(240, 240, 5400, 1800);
     Cmd_Exit.setCaption("&Close");
@@ -15,7 +16,7 @@ Frm_CheckForUpdates::Frm_CheckForUpdates(Station& station) : Screen(station, "Fr
     op("Cmd_Exit_Click", [this] { Cmd_Exit_Click(); });
 }
 
-void Frm_CheckForUpdates::Cmd_Exit_Click()
+void InfoScreen::Cmd_Exit_Click()
 {
     Showing = false;
     hide();
