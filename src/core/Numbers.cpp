@@ -328,11 +328,64 @@ void roundDecimal(double x, int decimals, std::string& integerPart, std::string&
 
 }  // namespace
 
+// The common case without strings in between: a value well inside the
+// range of a long long once scaled, and not within a hair of a half.
+bool formatQuickly(double number, const Pattern& pat, std::string& out)
+{
+    static constexpr double kScale[] = {1, 10, 100, 1000, 10000};
+    static constexpr long long kPow[] = {1, 10, 100, 1000, 10000};
+    if (pat.decimals > 4)
+        return false;
+    const double y = std::fabs(number) * kScale[pat.decimals];
+    if (!(y < 1e9))
+        return false;
+    const double whole = std::floor(y);
+    const double frac = y - whole;
+    const bool exactHalf = frac == 0.5 && std::fma(std::fabs(number), kScale[pat.decimals], -y) == 0;
+    if (!exactHalf && std::fabs(frac - 0.5) < 1e-6)
+        return false;
+    const long long n = static_cast<long long>(whole) + (frac >= 0.5 ? 1 : 0);
+    const long long integerValue = n / kPow[pat.decimals];
+    const long long fractionValue = n % kPow[pat.decimals];
+
+    char buf[64];
+    char* p = buf;
+    for (char c : pat.prefix)
+        *p++ = c;
+    if (number < 0 && n != 0)
+        *p++ = '-';
+    char digits[24];
+    int count = 0;
+    if (integerValue > 0) {
+        const auto res = std::to_chars(digits, digits + sizeof digits, integerValue);
+        count = static_cast<int>(res.ptr - digits);
+    }
+    for (int pad = count; pad < pat.minIntegerDigits; ++pad)
+        *p++ = '0';
+    for (int i = 0; i < count; ++i)
+        *p++ = digits[i];
+    if (pat.hasPoint) {
+        *p++ = '.';
+        long long f = fractionValue;
+        for (int i = pat.decimals - 1; i >= 0; --i) {
+            p[i] = static_cast<char>('0' + f % 10);
+            f /= 10;
+        }
+        p += pat.decimals;
+    }
+    out.assign(buf, p);
+    out.append(pat.suffix);
+    return true;
+}
+
 std::string Format(double number, std::string_view pattern)
 {
     const Pattern pat = parsePattern(pattern);
     if (!std::isfinite(number))
         number = 0;
+    std::string quick;
+    if (pat.prefix.size() < 16 && pat.minIntegerDigits < 16 && formatQuickly(number, pat, quick))
+        return quick;
     std::string integerPart, fraction;
     roundDecimal(number, pat.decimals, integerPart, fraction);
     const bool zero = integerPart.empty() && fraction.find_first_not_of('0') == std::string::npos;

@@ -40,8 +40,18 @@ std::string Frm_Vistrel::ClosenessText(double closeness) const
 
 std::string Frm_Vistrel::EyeBlock(double sphere, double cylinder, std::int16_t axis, double add) const
 {
-    return Format(sphere, "#0.00") + " " + Format(cylinder, "#0.00") + " " + Format(axis, "000") + " "
-        + Format(add, "#0.00") + "(" + Format(sphere + cylinder / 2 + add, "#0.00");
+    std::string block;
+    block.reserve(40);
+    block += Format(sphere, "#0.00");
+    block += ' ';
+    block += Format(cylinder, "#0.00");
+    block += ' ';
+    block += Format(axis, "000");
+    block += ' ';
+    block += Format(add, "#0.00");
+    block += '(';
+    block += Format(sphere + cylinder / 2 + add, "#0.00");
+    return block;
 }
 
 void Frm_Vistrel::AddResultRow(std::int16_t i, double closeness)
