@@ -13,6 +13,11 @@ namespace vistrel {
 
 void Frm_Vistrel::Search_Click()
 {
+    // Start-up fills the fields with JumpBack up, and the options it reads
+    // set off handlers that would search: none may, for a search would load
+    // the inventory before the options are all read.
+    if (JumpBack)
+        return;
     // A search asked for from inside a running one (a timer or a click that
     // arrives while the pass yields) starts that search over instead.
     if (searchRunning_) {
