@@ -239,9 +239,16 @@ void Frm_Vistrel::ReadOptionsFile()
 void Frm_Vistrel::ApplyAutorefractorType(const std::string& keyword)
 {
     const AutorefractorModel* model = findAutorefractorModel(keyword);
-    if (!model || model->isNone)
+    if (!model)
         return;
     Frm_ProgramOptions& opt = options();
+    // NONE has no line settings and leaves the caption alone, but its option
+    // is marked like any model's, over the one the capture box chose.
+    if (model->isNone) {
+        if (OptionButton* option = modelOption(opt, *model))
+            option->select();
+        return;
+    }
     SerialPort& port = platform().serialPort();
     port.setSettings(model->settings);
     if (model->readingFieldAtRead != ReadingField::Unchanged) {
