@@ -284,7 +284,7 @@ void Frm_Vistrel::design()
         "--------------------------------------->");
     place(Frm_Selection, nullptr, 60, 5160, 14160, 2640, "Items Available", "Results of inventory search.");
     place(Frm_LeftSelection, &Frm_Selection, 60, 210, 14040, 2370,
-        "Left" + std::string(65, ' ') + "|  Right", "Left lens reading of glasses found.");
+        "Left" + std::string(68, ' ') + "|  Right", "Left lens reading of glasses found.");
     struct Head {
         Label& label;
         int left;
