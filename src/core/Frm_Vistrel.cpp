@@ -168,6 +168,10 @@ void Frm_Vistrel::wireHandlers()
     click(Cmd_RestoreLeft, "Cmd_RestoreLeft_Click", [this] { Cmd_RestoreLeft_Click(); });
     click(Cmd_RestoreRight, "Cmd_RestoreRight_Click", [this] { Cmd_RestoreRight_Click(); });
     click(Cmd_ClearReload, "Cmd_ClearReload_Click", [this] { Cmd_ClearReload_Click(); });
+    Lst_LeftInventory.onScroll = [this] { Lst_LeftInventory_Scroll(); };
+    op("Lst_LeftInventory_Scroll", Lst_LeftInventory.onScroll);
+    Lst_RightInventory.onScroll = [this] { Lst_RightInventory_Scroll(); };
+    op("Lst_RightInventory_Scroll", Lst_RightInventory.onScroll);
     click(Cmd_ListPersons, "Cmd_ListPersons_Click", [this] { Cmd_ListPersons_Click(); });
     click(Lst_LeftSelection, "Lst_LeftSelection_Click", [this] { Lst_LeftSelection_Click(); });
 

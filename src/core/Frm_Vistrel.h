@@ -413,6 +413,8 @@ public:
     std::string Get_Record(std::int16_t handle);
     void ListInventory();
     void Cmd_ClearReload_Click() { ListInventory(); }
+    void Lst_LeftInventory_Scroll();
+    void Lst_RightInventory_Scroll();
     void ListPersons();
     void Cmd_ListPersons_Click() { ListPersons(); }
     void ClearEntryValues();

@@ -90,6 +90,17 @@ void Frm_Vistrel::ListInventory()
     }
 }
 
+// The two lists keep the same row at the same height.
+void Frm_Vistrel::Lst_LeftInventory_Scroll()
+{
+    Lst_RightInventory.setTopIndex(Lst_LeftInventory.topIndex());
+}
+
+void Frm_Vistrel::Lst_RightInventory_Scroll()
+{
+    Lst_LeftInventory.setTopIndex(Lst_RightInventory.topIndex());
+}
+
 void Frm_Vistrel::ListPersons()
 {
     // 1.

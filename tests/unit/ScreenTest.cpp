@@ -403,6 +403,22 @@ TEST_F(ScreenTest, OperationsAreFoundByName)
     EXPECT_NE(station.options().operation("Cmd_Continue_Click"), nullptr);
 }
 
+// The stock lists stand side by side, one row per pair in each: scrolling
+// either one brings the other to the same top row.
+TEST_F(ScreenTest, StockListsScrollTogether)
+{
+    Frm_Vistrel& v = station.vistrel();
+    for (int i = 1; i <= 20; ++i) {
+        v.Lst_LeftInventory.addItem("left " + std::to_string(i), i);
+        v.Lst_RightInventory.addItem("right " + std::to_string(i), i);
+    }
+    v.Lst_LeftInventory.setTopIndex(7);
+    EXPECT_EQ(v.Lst_RightInventory.topIndex(), 7);
+    v.Lst_RightInventory.setTopIndex(12);
+    EXPECT_EQ(v.Lst_LeftInventory.topIndex(), 12);
+    EXPECT_EQ(v.Lst_RightInventory.topIndex(), 12);
+}
+
 TEST_F(ScreenTest, ShowLoadsOnceAndModalWaitsOnThePlatform)
 {
     int loads = 0, activations = 0;
