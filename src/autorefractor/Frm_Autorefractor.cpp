@@ -124,7 +124,6 @@ void Frm_Autorefractor::design()
     Chk_AutoEnableAutoSearch.setToolTipText(
         "Click to cause the search to automatically occur 3 seconds after autorefractor acquisition.");
     Chk_AutoEnableAutoSearch.setGeometry(120, 360, 2640, 300);
-    Chk_AutoEnableAutoSearch.setValue(1);
     Lbl_AutoIncoming.setCaption("   Incoming Data....");
     Lbl_AutoIncoming.setGeometry(240, 3000, 2400, 300);
     Lbl_AutoIncoming.setVisible(false);

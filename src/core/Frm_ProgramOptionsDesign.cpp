@@ -119,10 +119,6 @@ void Frm_ProgramOptions::design()
         "Highest Allowable Inventory Number allows operation on smaller inventoryi files.");
     Txt_HighestInventoryNumber.setText("32000");
     y += 390;
-    // A new station starts as a file of an older version reads: these on.
-    for (CheckBox* on : {&Chk_AutoSearch, &Chk_AutoSearchWhenRead, &Chk_PrintPrescription,
-             &Chk_PrintGlassesPrescriptions, &Chk_IncludeEither, &Chk_UpTo50})
-        on->setValue(1);
     place(Lbl_ChoosePrinter, &Frm_Station, 120, y + 30, 1200, 255, "Use Printer:");
     place(Cmb_ChoosePrinter, &Frm_Station, 1320, y, 4080, 315);
     Cmb_ChoosePrinter.setText("Default");

@@ -245,7 +245,6 @@ void Frm_Vistrel::design()
     place(Opt_Child, &Frm_Gender, 90, 690, 1020, 240, "Child");
     place(Chk_Add_Either, &Frm_Gender, 1110, 690, 1020, 240, "+Either", "Male && Female searches include Either.");
     Opt_DoNotCare.selectQuietly();
-    Chk_Add_Either.setValue(1);
     place(Frm_LensType, &Frm_SearchFor, 60, 3090, 2160, 1230, "Lens type");
     place(Opt_LensDoNotCare, &Frm_LensType, 90, 210, 1020, 240, "Any");
     place(Opt_LensSingle, &Frm_LensType, 1110, 210, 1020, 240, "Single");
@@ -270,7 +269,6 @@ void Frm_Vistrel::design()
     Txt_PrintNr.setText("5");
     place(Lbl_PrintLines, nullptr, 5670, row + 90, 1560, 255, "  lines of below list plus");
     place(Chk_Prescription, nullptr, 7230, row + 75, 300, 270);
-    Chk_Prescription.setValue(1);
     place(Cmd_PrescriptionSave, nullptr, 7590, row, 1680, 420, "Save UN-Matched",
         "Click to save current prescription to file as one you could NOT find in inventory.");
     place(Txt_UnmatchedCount, nullptr, 9300, row + 45, 540, 330, {}, "Measurements saved without a match.");

@@ -209,7 +209,6 @@ void Frm_Advisor::design()
     Opt_Right1.setValue(true);
     Chk_VarnOverCylinder50.setCaption("Rule Change: Allow -.50 Over Cylinder with Varns Rules.");
     Chk_VarnOverCylinder50.setGeometry(120, 4080, 5400, 300);
-    Chk_VarnOverCylinder50.setValue(1);
     Chk_BiFocal_Remove.setToolTipText(
         "Check here to remove BiFocal/Trifocal/Progressive Add from search.  Give Readers instead.");
     Chk_BiFocal_Remove.setGeometry(120, 4440, 300, 300);
