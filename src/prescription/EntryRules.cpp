@@ -504,6 +504,7 @@ void Frm_Vistrel::Cmd_CalculateDataClear_Click()
     Opt_LensDoNotCare.select();
     Opt_DoNotCare.select();
     Lst_LeftSelection.clear();
+    FoundListCount = 0;
     // 9.
     SkipSearch = true;
     Chk_NOEquiv.setValue(1);
