@@ -553,6 +553,10 @@ private:
     // Re-entry of the search from the event pump restarts it instead.
     bool searchRunning_ = false;
     bool searchRestart_ = false;
+    // A stock or persons listing started from the event pump lists all
+    // itself; the one it interrupted stops. Counted per listing begun.
+    unsigned inventoryListings_ = 0;
+    unsigned personListings_ = 0;
 };
 
 }  // namespace vistrel

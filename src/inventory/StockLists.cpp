@@ -35,6 +35,7 @@ std::string genderText(std::int16_t code)
 void Frm_Vistrel::ListInventory()
 {
     // 1, 2.
+    const unsigned listing = ++inventoryListings_;
     Lst_LeftInventory.clear();
     Lst_RightInventory.clear();
     HighestInventoryNr = 0;
@@ -59,6 +60,8 @@ void Frm_Vistrel::ListInventory()
         if (Inv_Number[r] == 0)
             continue;
         platform().doEvents();
+        if (listing != inventoryListings_)
+            return;  // a click meanwhile listed the stock anew
         show();
         Txt_Status.setText(" Loading.. 00000");
         if (!Inv_Removed[r]) {
@@ -113,6 +116,7 @@ void Frm_Vistrel::ListPersons()
     if (networked)
         LoadJournalFile("NETWORK");
     // 3, 4.
+    const unsigned listing = ++personListings_;
     Lst_PersonsList.clear();
     PersonsListed = 0;
     const int count = static_cast<int>(InventoryCount.number());
@@ -121,6 +125,8 @@ void Frm_Vistrel::ListPersons()
         if (!Inv_Removed[r])
             continue;
         platform().doEvents();
+        if (listing != personListings_)
+            return;  // a click meanwhile listed the persons anew
         show();
         ++PersonsListed;
         Txt_Used.setText(Format(PersonsListed, "0000"));
