@@ -2,23 +2,9 @@
 // the default tolerances, the Add chart, the network path and the printer.
 
 #include "Frm_ProgramOptions.h"
+#include "screen/Layout.h"
 
 namespace vistrel {
-
-namespace {
-
-void place(Control& c, Control* container, int left, int top, int width, int height, const std::string& caption = {},
-    const std::string& tip = {})
-{
-    c.setContainer(container);
-    c.setGeometry(left, top, width, height);
-    if (!caption.empty())
-        c.setCaption(caption);
-    if (!tip.empty())
-        c.setToolTipText(tip);
-}
-
-}  // namespace
 
 void Frm_ProgramOptions::design()
 {

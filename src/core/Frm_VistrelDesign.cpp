@@ -4,21 +4,11 @@
 // places of each pair.
 
 #include "Frm_Vistrel.h"
+#include "screen/Layout.h"
 
 namespace vistrel {
 
 namespace {
-
-void place(Control& c, Control* container, int left, int top, int width, int height, const std::string& caption = {},
-    const std::string& tip = {})
-{
-    c.setContainer(container);
-    c.setGeometry(left, top, width, height);
-    if (!caption.empty())
-        c.setCaption(caption);
-    if (!tip.empty())
-        c.setToolTipText(tip);
-}
 
 const Font kFixed{"Courier New", 8, false};
 const Font kFixedBold{"Courier New", 9, true};

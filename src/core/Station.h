@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileHandles.h"
+#include "ScreensFwd.h"
 
 #include <memory>
 #include <string>
@@ -10,19 +11,6 @@ namespace vistrel {
 
 class Platform;
 class Form;
-class Frm_Vistrel;
-class Frm_ProgramOptions;
-class Frm_Autorefractor;
-class Frm_AutoReadings;
-class Frm_Advisor;
-class Frm_RemoveRejectInventory;
-class Frm_SavePrescription;
-class Frm_LensFrames;
-class Frm_ReadingGlasses;
-class Frm_HelpVarnRule;
-class Frm_HelpAreas;
-class Frm_About;
-class Frm_CheckForUpdates;
 
 // The whole station: its thirteen screens, created once and kept for the
 // run, and the platform they talk to the outside through.

@@ -293,36 +293,40 @@ void Frm_Vistrel::StepPersonNumber(double step)
 
 // ---- Confidence values, held between 1 and 10 by the buttons ----
 
+namespace {
+
+// The buttons step through the number text without its blank and hold the
+// value between 1 and 10; the capture screen's twin field follows.
+void stepConfidence(TextBox& field, TextBox& captureField, int step)
+{
+    field.setText(StrTrimmed(Val(field.text()) + step));
+    if (step > 0 && Val(field.text()) > 10)
+        field.setText("10");
+    if (step < 0 && Val(field.text()) <= 0)
+        field.setText("1");
+    captureField.setText(field.text());
+}
+
+}  // namespace
+
 void Frm_Vistrel::Cmd_LeftConfidenceUP_Click()
 {
-    Txt_LeftConfidenceValue.setText(StrTrimmed(Val(Txt_LeftConfidenceValue.text()) + 1));
-    if (Val(Txt_LeftConfidenceValue.text()) > 10)
-        Txt_LeftConfidenceValue.setText("10");
-    autorefractor().Txt_LeftConfidenceValue.setText(Txt_LeftConfidenceValue.text());
+    stepConfidence(Txt_LeftConfidenceValue, autorefractor().Txt_LeftConfidenceValue, 1);
 }
 
 void Frm_Vistrel::Cmd_LeftConfidenceDOWN_Click()
 {
-    Txt_LeftConfidenceValue.setText(StrTrimmed(Val(Txt_LeftConfidenceValue.text()) - 1));
-    if (Val(Txt_LeftConfidenceValue.text()) <= 0)
-        Txt_LeftConfidenceValue.setText("1");
-    autorefractor().Txt_LeftConfidenceValue.setText(Txt_LeftConfidenceValue.text());
+    stepConfidence(Txt_LeftConfidenceValue, autorefractor().Txt_LeftConfidenceValue, -1);
 }
 
 void Frm_Vistrel::Cmd_RightConfidenceUP_Click()
 {
-    Txt_RightConfidenceValue.setText(StrTrimmed(Val(Txt_RightConfidenceValue.text()) + 1));
-    if (Val(Txt_RightConfidenceValue.text()) > 10)
-        Txt_RightConfidenceValue.setText("10");
-    autorefractor().Txt_RightConfidenceValue.setText(Txt_RightConfidenceValue.text());
+    stepConfidence(Txt_RightConfidenceValue, autorefractor().Txt_RightConfidenceValue, 1);
 }
 
 void Frm_Vistrel::Cmd_RightConfidenceDOWN_Click()
 {
-    Txt_RightConfidenceValue.setText(StrTrimmed(Val(Txt_RightConfidenceValue.text()) - 1));
-    if (Val(Txt_RightConfidenceValue.text()) <= 0)
-        Txt_RightConfidenceValue.setText("1");
-    autorefractor().Txt_RightConfidenceValue.setText(Txt_RightConfidenceValue.text());
+    stepConfidence(Txt_RightConfidenceValue, autorefractor().Txt_RightConfidenceValue, -1);
 }
 
 void Frm_Vistrel::Txt_LeftConfidenceValue_Change()

@@ -4,23 +4,11 @@
 #include "Form.h"
 #include "Registry.h"
 #include "Variant.h"
+#include "../ScreensFwd.h"
 
 namespace vistrel {
 
 class Platform;
-class Frm_Vistrel;
-class Frm_ProgramOptions;
-class Frm_Autorefractor;
-class Frm_AutoReadings;
-class Frm_Advisor;
-class Frm_RemoveRejectInventory;
-class Frm_SavePrescription;
-class Frm_LensFrames;
-class Frm_ReadingGlasses;
-class Frm_HelpVarnRule;
-class Frm_HelpAreas;
-class Frm_About;
-class Frm_CheckForUpdates;
 
 // A screen of the station, with short ways to the other screens: the
 // screens read and write each other's fields directly, as they always have.
