@@ -225,8 +225,10 @@ public:
 
     // ---- Stock lists and persons ----
     Frame Frm_LeftInventory{*this, "Frm_LeftInventory"};
+    Label Lbl_LeftInventoryHeads{*this, "Lbl_LeftInventoryHeads"};
     ListBox Lst_LeftInventory{*this, "Lst_LeftInventory"};
     Frame Frm_RightInventory{*this, "Frm_RightInventory"};
+    Label Lbl_RightInventoryHeads{*this, "Lbl_RightInventoryHeads"};
     ListBox Lst_RightInventory{*this, "Lst_RightInventory"};
     Label Lbl_InventoryNr{*this, "Lbl_InventoryNr"};
     TextBox Txt_InventoryNr{*this, "Txt_InventoryNr"};

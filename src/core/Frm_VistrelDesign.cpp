@@ -310,10 +310,20 @@ void Frm_Vistrel::design()
 
     // ---- Stock lists and persons ----
     place(Frm_LeftInventory, nullptr, 60, 8310, 5100, 2100, "Left Inventory");
-    place(Lst_LeftInventory, &Frm_LeftInventory, 60, 240, 4980, 1800, {}, "Click on a pair to remove or reject it.");
+    place(Lbl_LeftInventoryHeads, &Frm_LeftInventory, 90, 210, 4950, 210,
+        "Nr.   SPH   CYL   Axis Add  (Pwr)     PD Rej",
+        "Glasses Bag number, Left Sphere Power, Left Cylinder Astigmatism Power, Left Astigmatism Axis, "
+        "Left Progressive/Bifocal Add, Number of times rejected");
+    place(Lst_LeftInventory, &Frm_LeftInventory, 60, 420, 4980, 1620, {}, "Click on a pair to remove or reject it.");
     place(Frm_RightInventory, nullptr, 5220, 8310, 5100, 2100, "Right Inventory");
-    place(Lst_RightInventory, &Frm_RightInventory, 60, 240, 4980, 1800, {},
+    place(Lbl_RightInventoryHeads, &Frm_RightInventory, 90, 210, 4950, 210,
+        "Nr.   SPH   CYL   Axis Add  (Pwr)  (S R P B) G Comment",
+        "Gender:  E=Either, F= Female, M=Male, C=Child.  Sunglasses Column (S/x=Yes/No), "
+        "Reading Glasses Column (R/x=Yes/No), Progressive Lens Column (P/x=Yes/No), Bifocals Column (B/x=Yes/No)");
+    place(Lst_RightInventory, &Frm_RightInventory, 60, 420, 4980, 1620, {},
         "Click on a pair to remove or reject it.");
+    Lbl_LeftInventoryHeads.setFont(kFixed);
+    Lbl_RightInventoryHeads.setFont(kFixed);
     Lst_LeftInventory.setFont(kFixed);
     Lst_RightInventory.setFont(kFixed);
     place(Frm_Persons, nullptr, 10380, 8310, 1980, 2100, "Persons list and glasses.");
