@@ -2,11 +2,8 @@
 // stepped or written by another screen, runs its change handler, and the
 // handlers keep the derived values and the prescription captions current.
 
-#include "autorefractor/Frm_Autorefractor.h"
-#include "core/Frm_ProgramOptions.h"
 #include "core/Frm_Vistrel.h"
 #include "core/Numbers.h"
-#include "wizard/Frm_Advisor.h"
 
 namespace vistrel {
 
