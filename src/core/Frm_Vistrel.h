@@ -543,6 +543,7 @@ public:
     void WriteAutorefractorPrescription();
 
 private:
+    void blindChanged(bool rightEye);
     void sphereOrCylinderChanged(const EyeEntry& eye, bool sphere);
     void addChanged(const EyeEntry& eye);
     void axisChanged(const EyeEntry& eye);

@@ -14,16 +14,18 @@ namespace vistrel {
 // Marking one eye blind searches by the other eye alone. The options
 // screen's option is marked without its handler: MatchBothValue stays as it
 // was when a box is checked.
-void Frm_Vistrel::Chk_BlindRight_Click()
+void Frm_Vistrel::blindChanged(bool rightEye)
 {
-    if (BlindRight)
+    bool& busy = rightEye ? BlindRight : BlindLeft;
+    if (busy)
         return;
-    BlindRight = true;
-    if (Chk_BlindRight.value() == 1) {
-        Chk_BlindLeft.setValue(0);
-        LeftOnlyValue = true;
-        RightOnlyValue = false;
-        options().Opt_LeftOnly.selectQuietly();
+    busy = true;
+    CheckBox& box = rightEye ? Chk_BlindRight : Chk_BlindLeft;
+    if (box.value() == 1) {
+        (rightEye ? Chk_BlindLeft : Chk_BlindRight).setValue(0);
+        LeftOnlyValue = rightEye;
+        RightOnlyValue = !rightEye;
+        (rightEye ? options().Opt_LeftOnly : options().Opt_RightOnly).selectQuietly();
     } else {
         LeftOnlyValue = false;
         RightOnlyValue = false;
@@ -31,27 +33,17 @@ void Frm_Vistrel::Chk_BlindRight_Click()
         options().Opt_MatchBoth.select();
     }
     Cmd_Search_Click();
-    BlindRight = false;
+    busy = false;
+}
+
+void Frm_Vistrel::Chk_BlindRight_Click()
+{
+    blindChanged(true);
 }
 
 void Frm_Vistrel::Chk_BlindLeft_Click()
 {
-    if (BlindLeft)
-        return;
-    BlindLeft = true;
-    if (Chk_BlindLeft.value() == 1) {
-        Chk_BlindRight.setValue(0);
-        RightOnlyValue = true;
-        LeftOnlyValue = false;
-        options().Opt_RightOnly.selectQuietly();
-    } else {
-        LeftOnlyValue = false;
-        RightOnlyValue = false;
-        MatchBothValue = true;
-        options().Opt_MatchBoth.select();
-    }
-    Cmd_Search_Click();
-    BlindLeft = false;
+    blindChanged(false);
 }
 
 void Frm_Vistrel::Chk_DominantLeft_Click()
