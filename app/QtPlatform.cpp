@@ -197,7 +197,12 @@ std::string QtPlatform::nativePath(const std::string& path)
 #ifdef Q_OS_WIN
     return path;
 #else
-    return mapDriveLetterPath(path, sharedDataFolder());
+    if (!hasDriveLetter(path))
+        return path;
+    // The root of a drive always exists where drives are real.
+    const std::string shared = sharedDataFolder();
+    QDir().mkpath(fromCore(driveRootFolder(shared, path[0])));
+    return mapDriveLetterPath(path, shared);
 #endif
 }
 

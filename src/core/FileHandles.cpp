@@ -24,8 +24,11 @@ bool FileHandles::open(int handle, const std::string& path, Mode mode)
     if (mode == Mode::Input) {
         if (!h->reader.open(path))
             return false;
+    } else if (mode == Mode::Append) {
+        if (!h->appended.open(path))
+            return false;
     } else {
-        h->out = std::fopen(path.c_str(), mode == Mode::Append ? "ab" : "wb");
+        h->out = std::fopen(path.c_str(), "wb");
         if (!h->out)
             return false;
     }
@@ -58,7 +61,11 @@ std::string FileHandles::readField(int handle, bool& atEnd)
 bool FileHandles::printLine(int handle, const std::string& text)
 {
     auto it = open_.find(handle);
-    if (it == open_.end() || !it->second->out)
+    if (it == open_.end())
+        return false;
+    if (it->second->mode == Mode::Append)
+        return it->second->appended.appendLine(text);
+    if (!it->second->out)
         return false;
     std::FILE* f = it->second->out;
     const bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FieldReader.h"
+#include "platform/AppendFile.h"
 
 #include <map>
 #include <memory>
@@ -30,7 +31,8 @@ private:
     struct Handle {
         Mode mode = Mode::Input;
         FieldReader reader;
-        std::FILE* out = nullptr;
+        std::FILE* out = nullptr;  // Output
+        AppendFile appended;       // Append: whole lines, one write each
         ~Handle();
     };
     std::map<int, std::unique_ptr<Handle>> open_;

@@ -174,6 +174,14 @@ void Frm_Vistrel::wireHandlers()
     op("Lst_RightInventory_Scroll", Lst_RightInventory.onScroll);
     click(Cmd_ListPersons, "Cmd_ListPersons_Click", [this] { Cmd_ListPersons_Click(); });
     click(Lst_LeftSelection, "Lst_LeftSelection_Click", [this] { Lst_LeftSelection_Click(); });
+    click(Lst_LeftInventory, "Lst_LeftInventory_Click", [this] { Lst_LeftInventory_Click(); });
+    click(Lst_RightInventory, "Lst_RightInventory_Click", [this] { Lst_RightInventory_Click(); });
+    click(Lst_PersonsList, "Lst_PersonsList_Click", [this] { Lst_PersonsList_Click(); });
+    change(Txt_InventoryNr, "Txt_InventoryNr_Change", [this] { Txt_InventoryNr_Change(); });
+    dbl(Txt_InventoryNr, "Txt_InventoryNr_DblClick", [this] { Txt_InventoryNr_DblClick(); });
+    click(Cmd_ReadingGlasses, "Cmd_ReadingGlasses_Click", [this] { Cmd_ReadingGlasses_Click(); });
+    click(Cmd_DisplayLensFrames, "Cmd_DisplayLensFrames_Click", [this] { Cmd_DisplayLensFrames_Click(); });
+    click(Cmd_PrescriptionSave, "Cmd_PrescriptionSave_Click", [this] { Cmd_PrescriptionSave_Click(); });
 
     // Presets and cut-back.
     click(Cmd_Default, "Cmd_Default_Click", [this] { Cmd_Default_Click(); });
@@ -208,6 +216,9 @@ void Frm_Vistrel::wireHandlers()
     op("TabIndexRight", [this] { TabIndexRight(); });
     op("WriteAutorefractorPrescription", [this] { WriteAutorefractorPrescription(); });
     op("Announce_Selection", [this] { Announce_Selection(); });
+    op("Journal_AddRemove", [this] { Journal_AddRemove(); });
+    op("JournalMeasumentData", [this] { JournalMeasumentData(); });
+    op("ClearEntryValues", [this] { ClearEntryValues(); });
     op("GetAgeAdjustment", [this] { GetAgeAdjustment(); });
     op("GetReadingPower", [this] { GetReadingPower(); });
 }
@@ -381,11 +392,13 @@ void Frm_Vistrel::bindRegistry()
     bindVar("Meas_LeftCylinder", bind::table(Meas_LeftCylinder, Meas_Written, 1));
     bindVar("Meas_LeftAxis", bind::table(Meas_LeftAxis, Meas_Written, 1));
     bindVar("Meas_LeftAdd", bind::table(Meas_LeftAdd, Meas_Written, 1));
+    bindVar("Meas_LeftReadingPower", bind::table(Meas_LeftAdd, Meas_Written, 1));
     bindVar("Meas_LeftSphereEqu", bind::table(Meas_LeftSphereEqu, 1));
     bindVar("Meas_RightSphere", bind::table(Meas_RightSphere, Meas_Written, 1));
     bindVar("Meas_RightCylinder", bind::table(Meas_RightCylinder, Meas_Written, 1));
     bindVar("Meas_RightAxis", bind::table(Meas_RightAxis, Meas_Written, 1));
     bindVar("Meas_RightAdd", bind::table(Meas_RightAdd, Meas_Written, 1));
+    bindVar("Meas_RightReadingPower", bind::table(Meas_RightAdd, Meas_Written, 1));
     bindVar("Meas_RightSphereEqu", bind::table(Meas_RightSphereEqu, 1));
 }
 

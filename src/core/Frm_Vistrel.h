@@ -420,7 +420,28 @@ public:
     void ListPersons();
     void Cmd_ListPersons_Click() { ListPersons(); }
     void ClearEntryValues();
+    void Txt_InventoryNr_Change();
+    void Txt_InventoryNr_DblClick();
+    void Cmd_ReadingGlasses_Click();
+    void Cmd_DisplayLensFrames_Click();
+
+    // ---- Dispensing ----
+    void Lst_LeftInventory_Click();
+    void Lst_RightInventory_Click();
+    void Lst_PersonsList_Click();
+
+    // ---- Journal ----
+    void Journal_AddRemove();
+    void JournalMeasumentData();
     void LoadJournalFile(const std::string& word);
+    // The journal files as the system names them here.
+    std::string LocalJournalFile();
+    std::string NetworkJournalFile(bool forWriting);
+
+    // ---- Unmatched measurements ----
+    void Cmd_PrescriptionSave_Click();
+    bool MeasurementComplete();
+    static bool MeasurementFieldOK(const std::string& text);
 
     // ---- Prescription arithmetic ----
     double GetAgeAdjustment();
@@ -543,6 +564,18 @@ public:
     void WriteAutorefractorPrescription();
 
 private:
+    // Where stock records that name no cell of their own land during a
+    // replay: the cell of the record before.
+    struct ReplayCursor {
+        int readingCell = 0;
+        int lensRow = 0;
+        int lensColumn = 0;
+    };
+    void appendJournalRecord(std::string line);
+    bool replayRecord(std::int16_t handle, const std::string& first, ReplayCursor& cursor);
+    bool replayMeasurement(std::int16_t handle);
+    bool replayDispensing(std::int16_t handle, const std::string& first);
+    void announceRow(const ListBox& list, bool returning);
     void blindChanged(bool rightEye);
     void sphereOrCylinderChanged(const EyeEntry& eye, bool sphere);
     void addChanged(const EyeEntry& eye);

@@ -165,6 +165,13 @@ bool IsNumeric(std::string_view text)
     return len == text.size() && hasDigits;
 }
 
+std::string FormatText(std::string_view text, std::string_view pattern)
+{
+    if (!IsNumeric(text))
+        return std::string(text);
+    return Format(Val(text), pattern);
+}
+
 std::string StrTrimmed(double number)
 {
     if (number == 0 || !std::isfinite(number))

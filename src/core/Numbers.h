@@ -28,6 +28,11 @@ std::string StrTrimmed(double number);
 // half away from zero on the decimal value of fifteen significant digits.
 std::string Format(double number, std::string_view pattern);
 
+// A text read from a file through a pattern, as the station has always
+// formatted field texts: a text that reads as a number is formatted, any
+// other text (an empty one too) is left as it stands.
+std::string FormatText(std::string_view text, std::string_view pattern);
+
 // A store into a 16-bit Integer: to the nearest, a half to the even
 // neighbour; nothing when the value doesn't fit (the store is skipped).
 std::optional<std::int16_t> ToInteger(double number);

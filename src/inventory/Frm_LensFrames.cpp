@@ -7,12 +7,47 @@ namespace vistrel {
 Frm_LensFrames::Frm_LensFrames(Station& station) : Screen(station, "Frm_LensFrames")
 {
     design();
-    Cmd_LensFrameHide.onClick = [this] { Cmd_LensFrameHide_Click(); };
-    onCloseBox = [this] { Cmd_LensFrameHide_Click(); };
+    wireHandlers();
     var("Showing", Showing);
     var("MSF_GridLocked", MSF_GridLocked);
     var("MSF_Gridlocked_Saved", MSF_Gridlocked_Saved);
-    op("Cmd_LensFrameHide_Click", [this] { Cmd_LensFrameHide_Click(); });
+}
+
+void Frm_LensFrames::wireHandlers()
+{
+    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
+        c.onClick = fn;
+        op(handler, std::move(fn));
+    };
+    for (int g = 0; g <= 2; ++g) {
+        Grid& grid = MSF_LensInventory(g);
+        grid.onClick = [this, g] { MSF_LensInventory_Click(g); };
+        grid.onEnterCell = [this, g] { MSF_LensInventory_EnterCell(g); };
+        grid.onLeaveCell = [this, g] { MSF_LensInventory_LeaveCell(g); };
+        grid.onScroll = [this, g] { MSF_LensInventory_Scroll(g); };
+    }
+    // The buttons of each half; the periodic save reaches the saves by name.
+    for (int i = 0; i <= 1; ++i) {
+        const std::string n = "(" + std::to_string(i) + ")";
+        click(Cmd_LensLock[i], "Cmd_LensLock_Click" + n, [this, i] { Cmd_LensLock_Click(i); });
+        click(Cmd_LensUnlock[i], "Cmd_LensUnlock_Click" + n, [this, i] { Cmd_LensUnlock_Click(i); });
+        click(Cmd_SaveLensChanges[i], "Cmd_SaveLensChanges_Click" + n, [this, i] { Cmd_SaveLensChanges_Click(i); });
+        op("Cmd_LockF_Click" + n, [this, i] { Cmd_LockF_Click(i); });
+        op("Cmd_UnlockF_Click" + n, [this, i] { Cmd_UnlockF_Click(i); });
+        op("Cmd_SaveF_Click" + n, [this, i] { Cmd_SaveF_Click(i); });
+        op("ComputeTotalLensFrames" + n, [this, i] {
+            std::int16_t result = 0;
+            ComputeTotalLensFrames(i, result);
+        });
+    }
+    click(Txt_FrameAdult65, "Txt_FrameAdult65_Click", [this] { Txt_FrameAdult65_Click(); });
+    click(Txt_FrameAdult67, "Txt_FrameAdult67_Click", [this] { Txt_FrameAdult67_Click(); });
+    click(Txt_FrameAdult70, "Txt_FrameAdult70_Click", [this] { Txt_FrameAdult70_Click(); });
+    click(Txt_FrameChild57, "Txt_FrameChild57_Click", [this] { Txt_FrameChild57_Click(); });
+    click(Txt_FrameChild61, "Txt_FrameChild61_Click", [this] { Txt_FrameChild61_Click(); });
+    click(Txt_FrameChild65, "Txt_FrameChild65_Click", [this] { Txt_FrameChild65_Click(); });
+    click(Cmd_LensFrameHide, "Cmd_LensFrameHide_Click", [this] { Cmd_LensFrameHide_Click(); });
+    onCloseBox = [this] { Cmd_LensFrameHide_Click(); };
 }
 
 Grid& Frm_LensFrames::MSF_LensInventory(int index)
@@ -22,6 +57,29 @@ Grid& Frm_LensFrames::MSF_LensInventory(int index)
     if (index == 2)
         return MSF_LensInventory2;
     return MSF_LensInventory0;
+}
+
+// The high-power grid has neither an overlay nor a total of its own.
+TextBox* Frm_LensFrames::overlay(int index)
+{
+    return index == 0 || index == 1 ? &Txt_LensOverlay[index] : nullptr;
+}
+
+TextBox* Frm_LensFrames::lensTotal(int index)
+{
+    return index == 0 || index == 1 ? &Txt_LensTotal[index] : nullptr;
+}
+
+std::array<TextBox*, 3> Frm_LensFrames::frameBoxes(int index)
+{
+    if (index == 0)
+        return {&Txt_FrameAdult65, &Txt_FrameAdult67, &Txt_FrameAdult70};
+    return {&Txt_FrameChild57, &Txt_FrameChild61, &Txt_FrameChild65};
+}
+
+bool Frm_LensFrames::gridLocked() const
+{
+    return MSF_GridLocked.number() != 0;
 }
 
 void Frm_LensFrames::ComputeTotalLensFrames(int index, std::int16_t& result)
@@ -34,8 +92,8 @@ void Frm_LensFrames::ComputeTotalLensFrames(int index, std::int16_t& result)
         for (int c = 1; c < grid.cols(); ++c)
             sum += Val(grid.textMatrix(r, c));
     MSF_GridLocked = kept;
-    if (index >= 0 && index <= 1)
-        Txt_LensTotal[index].setText(Format(sum, "000"));
+    if (TextBox* total = lensTotal(index))
+        total->setText(Format(sum, "000"));
     Txt_FrameAdultTotal.setText(Format(
         Val(Txt_FrameAdult65.text()) + Val(Txt_FrameAdult67.text()) + Val(Txt_FrameAdult70.text()), "000"));
     Txt_FrameChildTotal.setText(Format(
@@ -47,79 +105,6 @@ void Frm_LensFrames::Cmd_LensFrameHide_Click()
 {
     Showing = false;
     hide();
-}
-
-void Frm_LensFrames::design()
-{
-    setCaption("Lens and Frame Inventory");
-    setGeometry(0, 0, 14400, 9600);
-    for (int i = 0; i <= 1; ++i) {
-        Frm_LensInventory[i].setCaption(i == 0 ? "Adult (46mm)" : "Child (42mm)");
-        Frm_LensInventory[i].setToolTipText("Displays round frames and lens inventory.");
-        Frm_LensInventory[i].setGeometry(120 + i * 7140, 120, 7020, 8400);
-        Grid& grid = MSF_LensInventory(i);
-        grid.setContainer(&Frm_LensInventory[i]);
-        grid.setGeometry(120, 600, 6780, 5400);
-        grid.setToolTipText("Click a cell to decrement inventory for that particular lens.");
-        Txt_LensOverlay[i].setContainer(&Frm_LensInventory[i]);
-        Txt_LensOverlay[i].setVisible(false);
-        Txt_LensTotal[i].setContainer(&Frm_LensInventory[i]);
-        Txt_LensTotal[i].setGeometry(120, 6120, 900, 375);
-        Txt_LensTotal[i].setToolTipText("Total number of lens in inventory.");
-        Cmd_LensLock[i].setContainer(&Frm_LensInventory[i]);
-        Cmd_LensLock[i].setCaption("Lock Cells");
-        Cmd_LensLock[i].setToolTipText("Click to lock cells after unlocking and making changes.");
-        Cmd_LensLock[i].setGeometry(1200, 6120, 1440, 420);
-        Cmd_LensUnlock[i].setContainer(&Frm_LensInventory[i]);
-        Cmd_LensUnlock[i].setCaption("Unlock Cells");
-        Cmd_LensUnlock[i].setToolTipText("Click to unlock cells to allow changes.");
-        Cmd_LensUnlock[i].setGeometry(2760, 6120, 1440, 420);
-        Cmd_SaveLensChanges[i].setContainer(&Frm_LensInventory[i]);
-        Cmd_SaveLensChanges[i].setCaption("Save Cells");
-        Cmd_SaveLensChanges[i].setToolTipText("Click to save cells and turn off yellow indicators.");
-        Cmd_SaveLensChanges[i].setGeometry(4320, 6120, 1440, 420);
-    }
-    // Headings: sphere powers down the rows, cylinder powers across.
-    for (int g = 0; g <= 2; ++g) {
-        Grid& grid = MSF_LensInventory(g);
-        for (int c = 1; c < grid.cols(); ++c)
-            grid.setTextMatrix(0, c, Format(0.25 * (1 - c), "0.00"));
-        for (int r = 1; r < grid.rows(); ++r) {
-            double sphere = 6.25 - 0.25 * r;
-            if (g == 2)
-                sphere = r <= 40 ? 16.25 - 0.25 * r : -6.25 - 0.25 * (r - 41);
-            grid.setTextMatrix(r, 0, Format(sphere, "0.00"));
-        }
-    }
-    MSF_LensInventory2.setVisible(false);
-    TextBox* frames[] = {&Txt_FrameAdult65, &Txt_FrameAdult67, &Txt_FrameAdult70, &Txt_FrameChild57,
-        &Txt_FrameChild61, &Txt_FrameChild65};
-    for (int i = 0; i < 6; ++i) {
-        frames[i]->setContainer(&Frm_LensInventory[i / 3]);
-        frames[i]->setGeometry(1200 + (i % 3) * 1200, 7200, 900, 375);
-        frames[i]->setText("000");
-        frames[i]->setLocked(true);
-        frames[i]->setBackColor(14737632);
-    }
-    Txt_FrameAdultTotal.setContainer(&Frm_LensInventory[0]);
-    Txt_FrameAdultTotal.setGeometry(4800, 7200, 900, 375);
-    Txt_FrameChildTotal.setContainer(&Frm_LensInventory[1]);
-    Txt_FrameChildTotal.setGeometry(4800, 7200, 900, 375);
-    Lbl_SpherePower.setCaption("Sphere Power");
-    Lbl_SpherePower.setGeometry(120, 8640, 1800, 255);
-    Lbl_Astigmatic.setCaption("Cylinder Power");
-    Lbl_Astigmatic.setGeometry(2040, 8640, 1800, 255);
-    Lbl_Lens.setCaption("Lens");
-    Lbl_Lens.setGeometry(3960, 8640, 900, 255);
-    Lbl_Frames.setCaption("Frames");
-    Lbl_Frames.setGeometry(4920, 8640, 900, 255);
-    Lbl_65Child.setCaption("65");
-    Lbl_61Child.setCaption("61");
-    Lbl_57Child.setCaption("57");
-    Lbl_TotalA.setCaption("Total");
-    Cmd_LensFrameHide.setToolTipText("Click to hide this form to enable use of main form.");
-    Cmd_LensFrameHide.setCaption("Hide");
-    Cmd_LensFrameHide.setGeometry(12600, 8760, 1440, 420);
 }
 
 }  // namespace vistrel

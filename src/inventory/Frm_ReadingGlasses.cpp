@@ -1,20 +1,51 @@
 #include "Frm_ReadingGlasses.h"
 
+#include "CellLook.h"
+#include "StockGridJournal.h"
 #include "core/Numbers.h"
+#include "core/Station.h"
 
 namespace vistrel {
+
+using cell_look::Changed;
+using cell_look::Locked;
+using cell_look::Open;
 
 Frm_ReadingGlasses::Frm_ReadingGlasses(Station& station) : Screen(station, "Frm_ReadingGlasses")
 {
     design();
-    Cmd_HideReading.onClick = [this] { Cmd_HideReading_Click(); };
+    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
+        c.onClick = fn;
+        op(handler, std::move(fn));
+    };
+    for (int i = 0; i <= 19; ++i)
+        Txt_NNN[i].onClick = [this, i] { Txt_NNN_Click(i); };
+    click(Cmd_LockCells, "Cmd_LockCells_Click", [this] { Cmd_LockCells_Click(); });
+    click(Cmd_Unlock, "Cmd_Unlock_Click", [this] { Cmd_Unlock_Click(); });
+    click(Cmd_SaveCells, "Cmd_SaveCells_Click", [this] { Cmd_SaveCells_Click(); });
+    click(Cmd_HideReading, "Cmd_HideReading_Click", [this] { Cmd_HideReading_Click(); });
     onCloseBox = [this] { Cmd_HideReading_Click(); };
     var("Showing", Showing);
     op("ComputeTotalReading", [this] {
         std::int16_t result = 0;
         ComputeTotalReading(result);
     });
-    op("Cmd_HideReading_Click", [this] { Cmd_HideReading_Click(); });
+}
+
+void Frm_ReadingGlasses::Txt_NNN_Click(int index)
+{
+    TextBox& cell = Txt_NNN[index];
+    if (!cell.locked())
+        return;
+    // No floor: a count of 0 goes to minus 1.
+    const auto count = ToInteger(Val(cell.text()) - 1);
+    if (!count)
+        return;
+    cell.setText(Format(*count, "000"));
+    cell.setBackColor(Changed);
+    Txt_Total.setBackColor(Changed);
+    std::int16_t result = 0;
+    ComputeTotalReading(result);
 }
 
 void Frm_ReadingGlasses::ComputeTotalReading(std::int16_t& result)
@@ -23,55 +54,55 @@ void Frm_ReadingGlasses::ComputeTotalReading(std::int16_t& result)
     double sum = 0;
     for (int i = 0; i <= 19; ++i)
         sum += Val(Txt_NNN[i].text());
-    const std::int16_t total = ToIntegerOr(sum, 0);
-    Txt_Total.setText(Format(total, "000"));
+    Txt_Total.setText(Format(ToIntegerOr(sum, sum < 0 ? INT16_MIN : INT16_MAX), "000"));
+}
+
+void Frm_ReadingGlasses::Cmd_SaveCells_Click()
+{
+    // Only clicks are journalled: a count typed into an open cell has no
+    // yellow mark and stays on the screen alone. A journal that can't be
+    // written leaves the marks for the next save.
+    StockGridJournal journal(platform());
+    if (!journal.isOpen())
+        return;
+    for (int i = 0; i <= 19; ++i) {
+        TextBox& cell = Txt_NNN[i];
+        if (cell.backColor() != Changed)
+            continue;
+        if (!journal.append("Reading," + Format(i * 0.25, "0.00") + "," + cell.text()))
+            return;
+        cell.setBackColor(Locked);
+        cell.setLocked(true);
+    }
+    journal.close();
+    Txt_Total.setBackColor(Locked);
+    std::int16_t result = 0;
+    ComputeTotalReading(result);
+}
+
+void Frm_ReadingGlasses::Cmd_LockCells_Click()
+{
+    // Yellow cells lose their mark unsaved.
+    for (int i = 0; i <= 19; ++i) {
+        Txt_NNN[i].setBackColor(Locked);
+        Txt_NNN[i].setLocked(true);
+    }
+}
+
+void Frm_ReadingGlasses::Cmd_Unlock_Click()
+{
+    for (int i = 0; i <= 19; ++i) {
+        if (Txt_NNN[i].backColor() == Changed)
+            continue;
+        Txt_NNN[i].setBackColor(Open);
+        Txt_NNN[i].setLocked(false);
+    }
 }
 
 void Frm_ReadingGlasses::Cmd_HideReading_Click()
 {
     Showing = false;
     hide();
-}
-
-void Frm_ReadingGlasses::design()
-{
-    setCaption("Reading Glasses");
-    setGeometry(0, 0, 6600, 4800);
-    Frm_ReadingInventory.setCaption("Reading Glass Inventory.");
-    Frm_ReadingInventory.setGeometry(120, 120, 6240, 3000);
-    for (int i = 0; i <= 19; ++i) {
-        TextBox& cell = Txt_NNN[i];
-        cell.setContainer(&Frm_ReadingInventory);
-        cell.setGeometry(1200 + (i % 4) * 1200, 600 + (i / 4) * 440, 900, 375);
-        cell.setLocked(true);
-        cell.setBackColor(14737632);
-        cell.setText("000");
-        cell.setToolTipText("Click to decrement " + Format(i * 0.25, "0.00") + " reading glass inventory.");
-    }
-    Lbl_Power.setCaption("Power");
-    Lbl_Power.setContainer(&Frm_ReadingInventory);
-    Lbl_Power.setGeometry(120, 300, 900, 255);
-    Txt_Total.setText("000");
-    Txt_Total.setLocked(true);
-    Txt_Total.setBackColor(14737632);
-    Txt_Total.setGeometry(1200, 3240, 900, 375);
-    Lbl_Total.setCaption("Total=");
-    Lbl_Total.setGeometry(240, 3300, 900, 255);
-    Lbl_Instructions.setCaption(
-        "Single click to decrement a reading.  Unlock Cells, save, and Lock Cells to change them.");
-    Lbl_Instructions.setGeometry(2280, 3240, 4080, 480);
-    Cmd_Unlock.setCaption("Unlock Cells");
-    Cmd_Unlock.setToolTipText("Click to unlock cells to allow changes.");
-    Cmd_Unlock.setGeometry(240, 3960, 1440, 420);
-    Cmd_SaveCells.setCaption("Save Cells");
-    Cmd_SaveCells.setToolTipText("Click to save cells and turn off yellow indicators.");
-    Cmd_SaveCells.setGeometry(1800, 3960, 1440, 420);
-    Cmd_LockCells.setCaption("Lock Cells");
-    Cmd_LockCells.setToolTipText("Click to lock cells after unlocking and making changes.");
-    Cmd_LockCells.setGeometry(3360, 3960, 1440, 420);
-    Cmd_HideReading.setCaption("Hide");
-    Cmd_HideReading.setToolTipText("Click to hide this form to enable use of main form.");
-    Cmd_HideReading.setGeometry(4920, 3960, 1440, 420);
 }
 
 }  // namespace vistrel

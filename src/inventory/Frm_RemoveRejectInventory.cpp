@@ -1,5 +1,7 @@
 #include "Frm_RemoveRejectInventory.h"
 
+#include "core/Frm_Vistrel.h"
+
 namespace vistrel {
 
 Frm_RemoveRejectInventory::Frm_RemoveRejectInventory(Station& station)
@@ -7,6 +9,44 @@ Frm_RemoveRejectInventory::Frm_RemoveRejectInventory(Station& station)
 {
     design();
     var("Showing", Showing);
+    onLoad = [this] { Form_Load(); };
+    onActivate = [this] { Form_Activate(); };
+    // The close box answers nothing: the answer stays Cancel.
+    onCloseBox = [this] { answer(0); };
+    auto click = [this](CommandButton& button, const std::string& handler, std::function<void()> fn) {
+        button.onClick = fn;
+        op(handler, std::move(fn));
+    };
+    click(Cmd_RemoveInventory, "Cmd_RemoveInventory_Click", [this] { Cmd_RemoveInventory_Click(); });
+    click(Cmd_RejectInventory, "Cmd_RejectInventory_Click", [this] { Cmd_RejectInventory_Click(); });
+    click(Cmd_ReturnInventory, "Cmd_ReturnInventory_Click", [this] { Cmd_ReturnInventory_Click(); });
+    click(Cmd_Cancel, "Cmd_Cancel_Click", [this] { Cmd_Cancel_Click(); });
+    op("Form_Load", [this] { Form_Load(); });
+    op("Form_Activate", [this] { Form_Activate(); });
+}
+
+void Frm_RemoveRejectInventory::Form_Load()
+{
+    Form_Activate();
+}
+
+void Frm_RemoveRejectInventory::Form_Activate()
+{
+    const bool returning = vistrel().ReturnInventoryFlag;
+    setCaption(returning ? "Return Inventory..." : "Remove or Reject Inventory...");
+    Cmd_ReturnInventory.setVisible(returning);
+    Cmd_RemoveInventory.setVisible(!returning);
+    Cmd_RejectInventory.setVisible(!returning);
+    Cmd_Cancel.setVisible(true);
+    vistrel().Response = 0;
+    Showing = true;
+}
+
+void Frm_RemoveRejectInventory::answer(std::int16_t response)
+{
+    vistrel().Response = response;
+    Showing = false;
+    hide();
 }
 
 void Frm_RemoveRejectInventory::design()

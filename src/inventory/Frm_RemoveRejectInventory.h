@@ -2,6 +2,8 @@
 
 #include "core/screen/Screen.h"
 
+#include <cstdint>
+
 namespace vistrel {
 
 // The question asked when a pair is clicked: remove, reject or return it.
@@ -19,7 +21,17 @@ public:
 
     bool Showing = false;
 
+    // Load and every activation: the title and buttons of the question
+    // asked, and no answer yet.
+    void Form_Load();
+    void Form_Activate();
+    void Cmd_RemoveInventory_Click() { answer(6); }
+    void Cmd_RejectInventory_Click() { answer(5); }
+    void Cmd_ReturnInventory_Click() { answer(6); }
+    void Cmd_Cancel_Click() { answer(0); }
+
 private:
+    void answer(std::int16_t response);
     void design();
 };
 

@@ -9,6 +9,7 @@
 #include "core/Text.h"
 #include "inventory/Frm_LensFrames.h"
 #include "inventory/Frm_ReadingGlasses.h"
+#include "inventory/StockCells.h"
 #include "platform/Platform.h"
 
 #include <cerrno>
@@ -17,50 +18,6 @@
 namespace vistrel {
 
 namespace {
-
-// "0.00", "0.25" ... "4.75": the row of a reading power given as exact text.
-int readingRow(const std::string& power)
-{
-    for (int row = 0; row <= 19; ++row)
-        if (power == Format(row * 0.25, "0.00"))
-            return row;
-    return -1;
-}
-
-// Where a lens sphere (through "0.00") lives: grid and row, or false.
-bool lensRow(const std::string& sphere, int keywordGrid, int& grid, int& row)
-{
-    for (int r = 1; r <= 49; ++r) {
-        if (sphere == Format(6.25 - 0.25 * r, "0.00")) {
-            grid = keywordGrid;
-            row = r;
-            return true;
-        }
-    }
-    for (int r = 1; r <= 40; ++r) {
-        if (sphere == Format(16.25 - 0.25 * r, "0.00")) {
-            grid = 2;
-            row = r;
-            return true;
-        }
-    }
-    for (int r = 41; r <= 80; ++r) {
-        if (sphere == Format(-6.25 - 0.25 * (r - 41), "0.00")) {
-            grid = 2;
-            row = r;
-            return true;
-        }
-    }
-    return false;
-}
-
-int lensColumn(const std::string& cylinder)
-{
-    for (int c = 1; c <= 13; ++c)
-        if (cylinder == Format(0.25 * (1 - c), "0.00"))
-            return c;
-    return -1;
-}
 
 // An open that fails because the device isn't ready, as a removed disk.
 bool deviceNotReady(const std::string& path)
@@ -125,37 +82,32 @@ void Frm_Vistrel::Get_Readings()
         const std::string kind = UCase(first);
         const auto row = static_cast<size_t>(i - 1);
         if (kind == "READING") {
-            if (const int r = readingRow(Get_Record(handle)); r >= 0)
+            if (const int r = ReadingCellOf(Get_Record(handle)); r >= 0)
                 readingCell = r;
             TextBox& cell = reading.Txt_NNN[readingCell];
-            cell.setText(Format(Val(Get_Record(handle)), "000"));
+            cell.setText(FormatText(Get_Record(handle), "000"));
             if (auto sum = ToInteger(ReadingGlassesTotal + Val(cell.text())))
                 ReadingGlassesTotal = *sum;
             reading.Txt_Total.setText(Format(ReadingGlassesTotal, "000"));
         } else if (kind == "LENS" || kind == "LENSCHILD") {
-            const int keywordGrid = kind == "LENS" ? 0 : 1;
-            lensGrid = keywordGrid;
-            lensRow(Format(Val(Get_Record(handle)), "0.00"), keywordGrid, lensGrid, lensRowAt);
-            if (const int c = lensColumn(Format(Val(Get_Record(handle)), "0.00")); c >= 0)
+            lensGrid = kind == "LENS" ? 0 : 1;
+            const std::string sphere = FormatText(Get_Record(handle), "0.00");
+            if (const int r = LensRowOf(sphere); r >= 0) {
+                lensRowAt = r;
+            } else if (const int h = HighLensRowOf(sphere); h >= 0) {
+                lensGrid = 2;
+                lensRowAt = h;
+            }
+            if (const int c = LensColumnOf(FormatText(Get_Record(handle), "0.00")); c >= 0)
                 lensColumnAt = c;
-            lens.MSF_LensInventory(lensGrid).setTextMatrix(lensRowAt, lensColumnAt,
-                Format(Val(Get_Record(handle)), "000"));
+            const std::string quantity = FormatText(Get_Record(handle), "000");
+            if (lensRowAt >= 1 && lensColumnAt >= 1)
+                lens.MSF_LensInventory(lensGrid).setTextMatrix(lensRowAt, lensColumnAt, quantity);
         } else if (kind == "FRAMES" || kind == "FRAMESCHILD") {
-            const std::string size = Get_Record(handle);
-            TextBox* box = nullptr;
-            if (kind == "FRAMES")
-                box = size == "65" ? &lens.Txt_FrameAdult65
-                    : size == "67" ? &lens.Txt_FrameAdult67
-                    : size == "70" ? &lens.Txt_FrameAdult70
-                                   : nullptr;
-            else
-                box = size == "57" ? &lens.Txt_FrameChild57
-                    : size == "61" ? &lens.Txt_FrameChild61
-                    : size == "65" ? &lens.Txt_FrameChild65
-                                   : nullptr;
-            // With any other size the quantity becomes the next record's first field.
-            if (box)
-                box->setText(Format(Val(Get_Record(handle)), "000"));
+            // With a size not in the list the quantity becomes the next
+            // record's first field.
+            if (TextBox* box = FrameBoxOf(lens, kind == "FRAMESCHILD", Get_Record(handle)))
+                box->setText(FormatText(Get_Record(handle), "000"));
         } else {
             if (auto number = ToInteger(Val(first)))
                 Inv_Number[row] = *number;

@@ -123,15 +123,4 @@ void Frm_Vistrel::WriteDiagnostic(std::int16_t i)
     files.close(handle);
 }
 
-void Frm_Vistrel::Lst_LeftSelection_Click()
-{
-    const int row = Lst_LeftSelection.listIndex();
-    if (row < 0)
-        return;
-    ReturnInventoryFlag = false;
-    SelectedRowText = Variant(Lst_LeftSelection.row(row).text);
-    SelectedIndex = Variant(static_cast<double>(Lst_LeftSelection.row(row).itemData));
-    Announce_Selection();
-}
-
 }  // namespace vistrel

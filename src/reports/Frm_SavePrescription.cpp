@@ -1,11 +1,35 @@
 #include "Frm_SavePrescription.h"
 
+#include "core/Frm_Vistrel.h"
+
 namespace vistrel {
 
 Frm_SavePrescription::Frm_SavePrescription(Station& station) : Screen(station, "Frm_SavePrescription")
 {
     design();
     var("Showing", Showing);
+    onActivate = [this] { Form_Activate(); };
+    // Closed without an answer: nothing is saved.
+    onCloseBox = [this] { answer(false); };
+    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
+        c.onClick = fn;
+        op(handler, std::move(fn));
+    };
+    click(Cmd_Yes, "Cmd_Yes_Click", [this] { Cmd_Yes_Click(); });
+    click(Cmd_NOSave, "Cmd_NOSave_Click", [this] { Cmd_NOSave_Click(); });
+    click(Chk_DoNotAsk, "Chk_DoNotAsk_Click", [this] { Chk_DoNotAsk_Click(); });
+}
+
+void Frm_SavePrescription::Chk_DoNotAsk_Click()
+{
+    vistrel().SavePrescriptionASK = false;
+}
+
+void Frm_SavePrescription::answer(bool save)
+{
+    vistrel().SavePrescriptionYesNo = save;
+    Showing = false;
+    hide();
 }
 
 void Frm_SavePrescription::design()

@@ -17,7 +17,14 @@ public:
 
     bool Showing = false;
 
+    void Form_Activate() { Showing = true; }
+    void Cmd_Yes_Click() { answer(true); }
+    void Cmd_NOSave_Click() { answer(false); }
+    // Any click, also one that clears the box again: yes from now on.
+    void Chk_DoNotAsk_Click();
+
 private:
+    void answer(bool save);
     void design();
 };
 

@@ -34,6 +34,10 @@ public:
         Cmd_Go.onClick = [this] { log += "go;"; };
         Lst_Rows.onClick = [this] { log += "row:" + std::to_string(Lst_Rows.listIndex()) + ";"; };
         Lst_Rows.onDblClick = [this] { log += "dbl:" + std::to_string(Lst_Rows.listIndex()) + ";"; };
+        auto cell = [this] { return std::to_string(Grd_Cells.row()) + "," + std::to_string(Grd_Cells.col()); };
+        Grd_Cells.onLeaveCell = [this, cell] { log += "leave:" + cell() + ";"; };
+        Grd_Cells.onEnterCell = [this, cell] { log += "enter:" + cell() + ";"; };
+        Grd_Cells.onClick = [this, cell] { log += "cell:" + cell() + ";"; };
         Tmr_Tick.onTimer = [this] { ++ticks; };
         Lbl_Info.setCaption("Line one\r\nTwo");
         Lst_Rows.addItem("Zeta", 7);
@@ -186,7 +190,27 @@ TEST_F(ScriptRunnerTest, ListClicksSelectTheRowInDisplayOrder)
     EXPECT_EQ(screen.log, "row:1;dbl:0;");
 
     EXPECT_EQ(errorOf("click Frm_Test.Lst_Rows 2"), "row 2 is outside the list 'Frm_Test.Lst_Rows' of 2 rows");
-    EXPECT_EQ(errorOf("click Frm_Test.Cmd_Go 0"), "only a list takes a row: 'Frm_Test.Cmd_Go'");
+    EXPECT_EQ(errorOf("click Frm_Test.Cmd_Go 0"),
+        "only a list takes a row, and a grid a row and a column: 'Frm_Test.Cmd_Go'");
+    EXPECT_EQ(errorOf("click Frm_Test.Lst_Rows 0 1"), "a list takes a row, not a column: 'Frm_Test.Lst_Rows'");
+}
+
+// A cell is reached as a person reaches it: leaving the current cell,
+// entering the new one, then the click; a click on the current cell is a
+// click alone.
+TEST_F(ScriptRunnerTest, GridCellClicksMoveThereFirst)
+{
+    run("click Frm_Test.Grd_Cells 1 2");
+    run("click Frm_Test.Grd_Cells 1 2");
+    run("dblclick Frm_Test.Grd_Cells 0 1");
+    EXPECT_EQ(screen.log, "leave:0,0;enter:1,2;cell:1,2;cell:1,2;leave:1,2;enter:0,1;");
+    EXPECT_EQ(screen.Grd_Cells.row(), 0);
+    EXPECT_EQ(screen.Grd_Cells.col(), 1);
+
+    EXPECT_EQ(errorOf("click Frm_Test.Grd_Cells 1"), "a grid's cell takes a row and a column: 'Frm_Test.Grd_Cells'");
+    EXPECT_EQ(errorOf("click Frm_Test.Grd_Cells 2 0"), "cell (2,0) is outside the grid 'Frm_Test.Grd_Cells'");
+    EXPECT_EQ(errorOf("click Frm_Test.Grd_Cells 0 3"), "cell (0,3) is outside the grid 'Frm_Test.Grd_Cells'");
+    EXPECT_EQ(errorOf("click Frm_Test.Grd_Cells 1 1 1"), "click takes nothing after its target: '1'");
 }
 
 TEST_F(ScriptRunnerTest, TicksCallsAndStart)

@@ -124,11 +124,18 @@ std::optional<Statement> parseStatement(std::string_view line)
     }
     case Command::Click:
     case Command::DblClick:
+        // A list's ROW, or a grid cell's ROW COL.
         if (!trimmed(rest).empty()) {
-            st.number = wholeNumber(rest, "the row");
+            st.number = wholeNumber(nextWord(rest), "the row");
             if (*st.number < 0)
                 throw ScriptError("the row must not be negative");
         }
+        if (!trimmed(rest).empty()) {
+            st.column = wholeNumber(nextWord(rest), "the column");
+            if (*st.column < 0)
+                throw ScriptError("the column must not be negative");
+        }
+        expectEnd(rest, keyword);
         break;
     case Command::Tick:
         if (!trimmed(rest).empty()) {

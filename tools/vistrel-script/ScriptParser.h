@@ -16,6 +16,7 @@ struct Statement {
     TargetRef target;                // all but start and serial
     std::optional<std::string> value;  // start, set, check, serial
     std::optional<int> number;         // the ROW of click/dblclick, the N of tick
+    std::optional<int> column;         // the COL of a grid's click/dblclick
 };
 
 // Parses one line; nothing for a blank line or a # comment. Throws

@@ -66,6 +66,11 @@ DateTime ScriptPlatform::now()
 
 std::string ScriptPlatform::nativePath(const std::string& path)
 {
+    if (!hasDriveLetter(path))
+        return path;
+    // The root of a drive always exists where drives are real.
+    std::error_code ignored;
+    std::filesystem::create_directories(driveRootFolder(sharedDataFolder(), path[0]), ignored);
     return mapDriveLetterPath(path, sharedDataFolder());
 }
 

@@ -104,9 +104,20 @@ void ScriptRunner::set(const Statement& st)
 void ScriptRunner::click(const Statement& st, bool twice)
 {
     Control& c = control(st.target, "a control");
-    if (st.number) {
+    if (c.kind() == ControlKind::Grid && st.number) {
+        // A person's click on a cell: the grid moves there, then the click.
+        auto& grid = static_cast<Grid&>(c);
+        if (!st.column)
+            throw ScriptError("a grid's cell takes a row and a column: '" + st.target.text + "'");
+        if (*st.number >= grid.rows() || *st.column >= grid.cols())
+            throw ScriptError("cell (" + std::to_string(*st.number) + "," + std::to_string(*st.column) +
+                              ") is outside the grid '" + st.target.text + "'");
+        grid.moveTo(*st.number, *st.column);
+    } else if (st.number) {
         if (c.kind() != ControlKind::ListBox)
-            throw ScriptError("only a list takes a row: '" + st.target.text + "'");
+            throw ScriptError("only a list takes a row, and a grid a row and a column: '" + st.target.text + "'");
+        if (st.column)
+            throw ScriptError("a list takes a row, not a column: '" + st.target.text + "'");
         auto& list = static_cast<ListBox&>(c);
         if (*st.number >= list.listCount())
             throw ScriptError("row " + std::to_string(*st.number) + " is outside the list '" + st.target.text +

@@ -45,6 +45,9 @@ enum class Prop {
     TopIndex,
     Cells,
     Interval,
+    Focus,
+    Scroll,
+    CurrentCell,
 };
 
 struct Font {
@@ -116,6 +119,9 @@ public:
 
     const Font& font() const { return font_; }
     void setFont(const Font& font);
+
+    // Asks the window to put the keyboard focus here; nothing headless.
+    void setFocus() { notify(Prop::Focus); }
 
     std::function<void()> onClick;
     std::function<void()> onDblClick;

@@ -222,9 +222,88 @@ Grid::Grid(Form& form, std::string name, int rows, int cols, int index)
     : Control(form, ControlKind::Grid, std::move(name), index),
       rows_(rows),
       cols_(cols),
+      colWidths_(static_cast<size_t>(cols), 600),
       cells_(static_cast<size_t>(rows * cols))
 {
     setBackColor(colors::WindowBackground);
+}
+
+void Grid::moveTo(int row, int col)
+{
+    row = std::clamp(row, 0, std::max(0, rows_ - 1));
+    col = std::clamp(col, 0, std::max(0, cols_ - 1));
+    if (row == row_ && col == col_)
+        return;
+    raise(onLeaveCell);
+    row_ = row;
+    col_ = col;
+    notify(Prop::CurrentCell);
+    raise(onEnterCell);
+}
+
+void Grid::setRow(int row)
+{
+    if (row == row_)
+        return;
+    row_ = row;
+    notify(Prop::CurrentCell);
+}
+
+void Grid::setCol(int col)
+{
+    if (col == col_)
+        return;
+    col_ = col;
+    notify(Prop::CurrentCell);
+}
+
+void Grid::setTopRow(int row)
+{
+    row = std::clamp(row, 1, std::max(1, rows_ - 1));
+    if (row == topRow_)
+        return;
+    topRow_ = row;
+    notify(Prop::Scroll);
+    raise(onScroll);
+}
+
+int Grid::colWidth(int col) const
+{
+    if (col < 0 || col >= cols_)
+        return 0;
+    return colWidths_[static_cast<size_t>(col)];
+}
+
+void Grid::setColWidth(int col, int twips)
+{
+    if (col < 0 || col >= cols_ || colWidths_[static_cast<size_t>(col)] == twips)
+        return;
+    colWidths_[static_cast<size_t>(col)] = twips;
+    notify(Prop::Geometry);
+}
+
+void Grid::setRowHeight(int twips)
+{
+    if (twips == rowHeight_)
+        return;
+    rowHeight_ = twips;
+    notify(Prop::Geometry);
+}
+
+int Grid::cellLeft() const
+{
+    int left = 0;
+    for (int c = 0; c < col_ && c < cols_; ++c)
+        left += colWidths_[static_cast<size_t>(c)];
+    return left;
+}
+
+int Grid::cellTop() const
+{
+    // Fixed headings stay at the top; the other rows scroll below them.
+    if (row_ <= 0)
+        return 0;
+    return rowHeight_ * (1 + row_ - topRow_);
 }
 
 Grid::Cell* Grid::cell(int row, int col)

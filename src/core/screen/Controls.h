@@ -151,7 +151,8 @@ private:
     std::vector<std::string> items_;
 };
 
-// A grid of text cells with a back colour each and a current cell.
+// A grid of text cells with a back colour each and a current cell. Row 0
+// and column 0 are the fixed headings; the rows below scroll under them.
 class Grid : public Control {
 public:
     Grid(Form& form, std::string name, int rows, int cols, int index = -1);
@@ -163,12 +164,30 @@ public:
     Color cellBackColor(int row, int col) const;
     void setCellBackColor(int row, int col, Color color);
 
+    // The current cell. Setting it from the program raises nothing;
+    // moveTo is a person's move: LeaveCell, the move, EnterCell.
     int row() const { return row_; }
     int col() const { return col_; }
-    void setRow(int row) { row_ = row; }
-    void setCol(int col) { col_ = col; }
+    void setRow(int row);
+    void setCol(int col);
+    void moveTo(int row, int col);
     const std::string& text() const { return textMatrix(row_, col_); }
     void setText(const std::string& text) { setTextMatrix(row_, col_, text); }
+
+    // The first scrolled row shown under the headings; a change raises Scroll.
+    int topRow() const { return topRow_; }
+    void setTopRow(int row);
+
+    // Column widths and the row height, in twips as the screens were drawn,
+    // and the place of the current cell relative to the grid's top left.
+    int colWidth(int col) const;
+    void setColWidth(int col, int twips);
+    int rowHeight() const { return rowHeight_; }
+    void setRowHeight(int twips);
+    int cellLeft() const;
+    int cellTop() const;
+    int cellWidth() const { return colWidth(col_); }
+    int cellHeight() const { return rowHeight_; }
 
     std::function<void()> onEnterCell;
     std::function<void()> onLeaveCell;
@@ -186,6 +205,9 @@ private:
     int cols_;
     int row_ = 0;
     int col_ = 0;
+    int topRow_ = 1;
+    int rowHeight_ = 240;
+    std::vector<int> colWidths_;
     std::vector<Cell> cells_;
 };
 
