@@ -67,15 +67,16 @@ void Frm_LensFrames::MSF_LensInventory_LeaveCell(int index)
 }
 
 // What was typed over the current cell goes into it, with the yellow mark.
+// Unlocking leaves no cell current (row and column 0): the headings there
+// are never written over.
 void Frm_LensFrames::commitOverlay(int index)
 {
     TextBox* editor = overlay(index);
-    if (!editor)
-        return;
     Grid& grid = MSF_LensInventory(index);
+    if (!editor || grid.row() == 0 || grid.col() == 0)
+        return;
     grid.setText(FormatText(editor->text(), "000"));
-    if (grid.row() != 0 && grid.col() != 0)
-        grid.setCellBackColor(grid.row(), grid.col(), Changed);
+    grid.setCellBackColor(grid.row(), grid.col(), Changed);
 }
 
 void Frm_LensFrames::MSF_LensInventory_Scroll(int index)
