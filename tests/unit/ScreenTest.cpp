@@ -274,6 +274,45 @@ TEST_F(ScreenTest, GridCellsOutOfRangeAreHarmless)
     EXPECT_EQ(grid.text(), "");
 }
 
+// A person's move leaves the old cell and enters the new one; the
+// program's own moves raise nothing. The place of the current cell follows
+// the column widths and the scrolled rows under the fixed headings.
+TEST_F(ScreenTest, GridMovesAndCellPlaces)
+{
+    Grid& grid = screen.MSF_Cells;
+    std::string log;
+    grid.onLeaveCell = [&] { log += "leave " + std::to_string(grid.row()) + "," + std::to_string(grid.col()) + ";"; };
+    grid.onEnterCell = [&] { log += "enter " + std::to_string(grid.row()) + "," + std::to_string(grid.col()) + ";"; };
+    grid.onScroll = [&] { log += "scroll " + std::to_string(grid.topRow()) + ";"; };
+
+    grid.moveTo(2, 3);
+    grid.moveTo(2, 3);
+    grid.moveTo(9, -4);  // clamped into the grid
+    grid.setRow(0);
+    grid.setCol(0);
+    EXPECT_EQ(log, "leave 0,0;enter 2,3;leave 2,3;enter 2,0;");
+
+    log.clear();
+    grid.setColWidth(0, 600);
+    grid.setColWidth(1, 500);
+    grid.setColWidth(2, 400);
+    grid.setRowHeight(240);
+    grid.setRow(2);
+    grid.setCol(2);
+    EXPECT_EQ(grid.cellLeft(), 1100);
+    EXPECT_EQ(grid.cellWidth(), 400);
+    EXPECT_EQ(grid.cellTop(), 480);
+    EXPECT_EQ(grid.cellHeight(), 240);
+    grid.setTopRow(2);
+    EXPECT_EQ(grid.cellTop(), 240);  // the first scrolled row sits under the headings
+    grid.setTopRow(2);
+    grid.setTopRow(0);  // never above the first scrolled row
+    EXPECT_EQ(grid.topRow(), 1);
+    EXPECT_EQ(log, "scroll 2;scroll 1;");
+    grid.setRow(0);
+    EXPECT_EQ(grid.cellTop(), 0);  // the headings don't scroll
+}
+
 // ---- Registry ----
 
 TEST_F(ScreenTest, ControlsAreFoundByNameAndIndex)
