@@ -7,6 +7,7 @@
 
 namespace vistrel {
 
+#ifndef _WIN32
 namespace {
 
 bool sameWithoutCase(const std::string& a, const std::string& b)
@@ -18,6 +19,7 @@ bool sameWithoutCase(const std::string& a, const std::string& b)
 }
 
 }  // namespace
+#endif
 
 std::string JournalFileIn(const std::string& nativeFolder, char separator, const std::string& spelling)
 {
