@@ -57,6 +57,13 @@ AppendFile::~AppendFile()
     close();
 }
 
+// Another writer's line may be half written at the moment of the look,
+// unless we hold the lock or no one else writes.
+bool AppendFile::mayCloseTail(bool locked) const
+{
+    return options_.closeTornTail && (locked || !options_.lockAgainstOtherWriters);
+}
+
 void AppendFile::fail(const char* what)
 {
     failed_ = true;
@@ -91,16 +98,17 @@ bool AppendFile::open(const std::string& path, Options options)
         return false;
     }
     handle_ = h;
+    bool locked = false;
     if (options_.lockAgainstOtherWriters) {
         OVERLAPPED whole{};
-        for (int i = 0; i < kLockTries; ++i) {
-            if (LockFileEx(h, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, MAXDWORD, MAXDWORD, &whole))
-                break;
-            std::this_thread::sleep_for(kLockPause);
+        for (int i = 0; i < kLockTries && !locked; ++i) {
+            locked = LockFileEx(h, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, MAXDWORD, MAXDWORD, &whole);
+            if (!locked)
+                std::this_thread::sleep_for(kLockPause);
         }
     }
     LARGE_INTEGER size{};
-    if (GetFileSizeEx(h, &size) && size.QuadPart > 0) {
+    if (mayCloseTail(locked) && GetFileSizeEx(h, &size) && size.QuadPart > 0) {
         OVERLAPPED at{};
         const unsigned long long last = static_cast<unsigned long long>(size.QuadPart - 1);
         at.Offset = static_cast<DWORD>(last & 0xffffffffu);
@@ -193,7 +201,7 @@ bool AppendFile::open(const std::string& path, Options options)
     }
 
     struct stat st {};
-    if (canRead && ::fstat(fd_, &st) == 0 && st.st_size > 0) {
+    if (canRead && mayCloseTail(locked_) && ::fstat(fd_, &st) == 0 && st.st_size > 0) {
         char c = '\n';
         if (::pread(fd_, &c, 1, st.st_size - 1) == 1)
             needsLineEnd_ = c != '\n' && c != '\r';

@@ -13,6 +13,8 @@ namespace vistrel {
 //
 // A file left by an earlier crash without a line end at its end gets one
 // in front of the first new line, so new records never glue onto a torn one.
+// The look at the file's end is only sound while no one else appends: it
+// is made for a file of one writer, or under the lock.
 class AppendFile {
 public:
     struct Options {
@@ -24,6 +26,10 @@ public:
         // to serialise the appends of several machines. Waits a little for
         // another writer, then writes without the lock rather than not at all.
         bool lockAgainstOtherWriters = false;
+        // Close a line left torn at the file's end. Off for a file that others
+        // append to without the lock: their line may be half written when
+        // we look, and the line end would then stand alone.
+        bool closeTornTail = true;
     };
 
     AppendFile() = default;
@@ -49,6 +55,7 @@ public:
 
 private:
     void fail(const char* what);
+    bool mayCloseTail(bool locked) const;
 
 #ifdef _WIN32
     void* handle_ = nullptr;
