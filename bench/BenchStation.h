@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BenchFiles.h"
 #include "core/Screens.h"
 #include "core/Station.h"
 #include "platform/Platform.h"
@@ -57,11 +58,10 @@ private:
     NoPrinter printer_;
 };
 
-// A station started on a generated stock of pairs with realistic spread.
+// A station on prepared folders, started at once.
 struct BenchStation {
-    explicit BenchStation(int pairs);
+    explicit BenchStation(const BenchFolders& folders);
     ~BenchStation();
-    std::filesystem::path root;
     std::unique_ptr<QuietPlatform> platform;
     std::unique_ptr<Station> station;
     Frm_Vistrel& main() { return station->vistrel(); }

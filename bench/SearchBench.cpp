@@ -9,10 +9,6 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <cstdio>
-#include <map>
-#include <string>
-#include <vector>
 
 namespace vistrel::bench {
 
@@ -20,7 +16,8 @@ namespace {
 
 BenchStation& station()
 {
-    static BenchStation s(32000);
+    static BenchFolders folders(32000);
+    static BenchStation s(folders);
     return s;
 }
 
@@ -97,50 +94,6 @@ void BM_SearchMaximumPreset(benchmark::State& state)
 }
 BENCHMARK(BM_SearchMaximumPreset)->Unit(benchmark::kMillisecond);
 
-void BM_LoadInventory(benchmark::State& state)
-{
-    for (auto _ : state) {
-        BenchStation s(32000);
-        benchmark::DoNotOptimize(s.main().InventoryCount.number());
-    }
-}
-BENCHMARK(BM_LoadInventory)->Unit(benchmark::kMillisecond)->Iterations(3);
-
-// Prints the runs as usual, then each search as a multiple of the floor.
-class RatioReporter : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
-            if (run.iterations > 0)
-                perIteration_[run.benchmark_name()] =
-                    run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
-    }
-    void Finalize() override
-    {
-        ConsoleReporter::Finalize();
-        const auto floor = perIteration_.find("BM_EyeCountFloor");
-        if (floor == perIteration_.end() || floor->second <= 0)
-            return;
-        for (const auto& [name, time] : perIteration_)
-            if (name.rfind("BM_Search", 0) == 0)
-                std::printf("%-28s %6.1f x the eye-count floor\n", name.c_str(), time / floor->second);
-    }
-
-private:
-    std::map<std::string, double> perIteration_;  // seconds of CPU per iteration
-};
-
 }  // namespace
 
 }  // namespace vistrel::bench
-
-int main(int argc, char** argv)
-{
-    benchmark::Initialize(&argc, argv);
-    vistrel::bench::RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    benchmark::Shutdown();
-    return 0;
-}

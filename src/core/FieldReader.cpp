@@ -11,6 +11,14 @@ bool isLineEnd(int c)
 {
     return c == '\r' || c == '\n';
 }
+bool endsPlainField(char c)
+{
+    return c == ',' || c == '\r' || c == '\n';
+}
+bool endsQuotedField(char c)
+{
+    return c == '"';
+}
 }  // namespace
 
 FieldReader::~FieldReader()
@@ -51,66 +59,76 @@ int FieldReader::peek()
     return static_cast<unsigned char>(buffer_[pos_]);
 }
 
-int FieldReader::get()
-{
-    const int c = peek();
-    if (c != EOF)
-        ++pos_;
-    return c;
-}
-
 bool FieldReader::atEnd()
 {
     return peek() == EOF;
 }
 
+int FieldReader::skipToField()
+{
+    for (int c; (c = peek()) != EOF; ++pos_)
+        if (!isBlank(c) && !(isLineEnd(c) && !afterComma_))
+            return c;
+    return EOF;
+}
+
+template <typename Stop>
+void FieldReader::appendUntil(std::string* field, Stop isStop)
+{
+    while (peek() != EOF) {
+        const char* const from = buffer_ + pos_;
+        const char* const end = buffer_ + len_;
+        const char* p = from;
+        while (p != end && !isStop(*p))
+            ++p;
+        if (field)
+            field->append(from, static_cast<size_t>(p - from));
+        pos_ = static_cast<size_t>(p - buffer_);
+        if (p != end)
+            return;
+    }
+}
+
+// A comma, or one line end (CR, LF or CR LF), when one stands next.
+void FieldReader::takeDelimiter()
+{
+    const int c = peek();
+    if (c == ',') {
+        ++pos_;
+        afterComma_ = true;
+    } else if (isLineEnd(c)) {
+        ++pos_;
+        if (c == '\r' && peek() == '\n')
+            ++pos_;
+    }
+}
+
 std::string FieldReader::next()
 {
     std::string field;
-    int c = peek();
-    while (c != EOF && (isBlank(c) || (isLineEnd(c) && !afterComma_))) {
-        get();
-        c = peek();
-    }
+    const int c = skipToField();
     afterComma_ = false;
     if (c == EOF)
         return field;
     if (isLineEnd(c)) {
-        // An empty last field of its line.
-        get();
-        if (c == '\r' && peek() == '\n')
-            get();
+        // An empty last field of its line: a line end stops skipToField
+        // only straight after a comma.
+        takeDelimiter();
         return field;
     }
-
-    bool quoted = false;
     if (c == '"') {
-        quoted = true;
-        get();
-        while ((c = get()) != EOF && c != '"')
-            field.push_back(static_cast<char>(c));
+        ++pos_;
+        appendUntil(&field, endsQuotedField);
+        if (peek() == '"')
+            ++pos_;
         // Whatever stands between the closing quote and the delimiter is dropped.
-        while ((c = peek()) != EOF && c != ',' && !isLineEnd(c))
-            get();
-    } else {
-        while ((c = peek()) != EOF && c != ',' && !isLineEnd(c)) {
-            field.push_back(static_cast<char>(c));
-            get();
-        }
+        appendUntil(nullptr, endsPlainField);
+        takeDelimiter();
+        return field;
     }
-    // Consume the delimiter: a comma, or one line end (CR, LF or CR LF).
-    c = peek();
-    if (c == ',') {
-        get();
-        afterComma_ = true;
-    } else if (c == '\r') {
-        get();
-        if (peek() == '\n')
-            get();
-    } else if (c == '\n') {
-        get();
-    }
-    if (!quoted) {
+    appendUntil(&field, endsPlainField);
+    takeDelimiter();
+    if (!field.empty() && isBlank(static_cast<unsigned char>(field.back()))) {
         size_t end = field.size();
         while (end > 0 && isBlank(static_cast<unsigned char>(field[end - 1])))
             --end;

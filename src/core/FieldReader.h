@@ -28,8 +28,15 @@ public:
 
 private:
     int peek();
-    int get();
     bool fill();
+    // Steps over what stands before a field; gives the first character of
+    // the field (or its delimiter), not taken, or EOF.
+    int skipToField();
+    // Appends characters up to, not including, the first of the stops; the
+    // field is copied a buffer's span at a time, not character by character.
+    template <typename Stop>
+    void appendUntil(std::string* field, Stop isStop);
+    void takeDelimiter();
 
     std::FILE* file_ = nullptr;
     bool afterComma_ = false;  // the last field ended with a comma

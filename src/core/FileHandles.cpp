@@ -38,7 +38,21 @@ bool FileHandles::open(int handle, const std::string& path, Mode mode)
 
 void FileHandles::close(int handle)
 {
+    if (handle == lastFound_)
+        lastFoundHandle_ = nullptr;
     open_.erase(handle);
+}
+
+FileHandles::Handle* FileHandles::find(int handle)
+{
+    if (lastFoundHandle_ && handle == lastFound_)
+        return lastFoundHandle_;
+    auto it = open_.find(handle);
+    if (it == open_.end())
+        return nullptr;
+    lastFound_ = handle;
+    lastFoundHandle_ = it->second.get();
+    return lastFoundHandle_;
 }
 
 bool FileHandles::isOpen(int handle) const
@@ -48,26 +62,24 @@ bool FileHandles::isOpen(int handle) const
 
 std::string FileHandles::readField(int handle, bool& atEnd)
 {
-    auto it = open_.find(handle);
-    if (it == open_.end() || it->second->mode != Mode::Input) {
-        atEnd = true;
-        return {};
-    }
-    std::string field = it->second->reader.next();
-    atEnd = it->second->reader.atEnd();
+    // One way out, so that the field is made in place and never moved.
+    Handle* h = find(handle);
+    const bool reading = h && h->mode == Mode::Input;
+    std::string field = reading ? h->reader.next() : std::string();
+    atEnd = !reading || h->reader.atEnd();
     return field;
 }
 
 bool FileHandles::printLine(int handle, const std::string& text)
 {
-    auto it = open_.find(handle);
-    if (it == open_.end())
+    Handle* h = find(handle);
+    if (!h)
         return false;
-    if (it->second->mode == Mode::Append)
-        return it->second->appended.appendLine(text);
-    if (!it->second->out)
+    if (h->mode == Mode::Append)
+        return h->appended.appendLine(text);
+    if (!h->out)
         return false;
-    std::FILE* f = it->second->out;
+    std::FILE* f = h->out;
     const bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size()
         && std::fwrite("\r\n", 1, 2, f) == 2 && std::fflush(f) == 0;
     return ok;

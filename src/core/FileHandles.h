@@ -16,6 +16,10 @@ class FileHandles {
 public:
     enum class Mode { Input, Output, Append };
 
+    FileHandles() = default;
+    FileHandles(const FileHandles&) = delete;
+    FileHandles& operator=(const FileHandles&) = delete;
+
     // The lowest number not in use.
     int freeFile() const;
     bool open(int handle, const std::string& path, Mode mode);
@@ -35,7 +39,13 @@ private:
         AppendFile appended;       // Append: whole lines, one write each
         ~Handle();
     };
+    Handle* find(int handle);
+
     std::map<int, std::unique_ptr<Handle>> open_;
+    // The handle found last: a load reads one handle field after field, and
+    // this spares a lookup in the map for each field.
+    int lastFound_ = 0;
+    Handle* lastFoundHandle_ = nullptr;
 };
 
 }  // namespace vistrel

@@ -135,6 +135,44 @@ Decimal shortDecimal(double x)
     return d;
 }
 
+// The number at the start of text when it has at most fifteen digits and
+// no exponent, as nearly every field has: its digits make an exact whole
+// number and the power of ten is exact, so the one division rounds
+// correctly, as from_chars does. False leaves it to the careful way.
+bool quickVal(std::string_view text, double& value)
+{
+    static constexpr double kPow10[] = {
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const size_t n = text.size();
+    size_t i = 0;
+    const bool negative = i < n && text[i] == '-';
+    if (i < n && (text[i] == '+' || text[i] == '-'))
+        ++i;
+    std::uint64_t mantissa = 0;
+    int digits = 0, decimals = 0;
+    auto take = [&](char c) {
+        mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+        return ++digits <= 15;
+    };
+    for (; i < n && isDigit(text[i]); ++i)
+        if (!take(text[i]))
+            return false;
+    if (i < n && text[i] == '.') {
+        for (++i; i < n && isDigit(text[i]); ++i, ++decimals)
+            if (!take(text[i]))
+                return false;
+    }
+    if (digits == 0) {
+        value = 0;
+        return true;
+    }
+    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D'))
+        return false;
+    const double magnitude = static_cast<double>(mantissa) / kPow10[decimals];
+    value = negative ? -magnitude : magnitude;
+    return true;
+}
+
 }  // namespace
 
 double Val(std::string_view text)
@@ -143,6 +181,8 @@ double Val(std::string_view text)
     while (i < text.size() && isBlank(text[i]))
         ++i;
     text.remove_prefix(i);
+    if (double quick = 0; quickVal(text, quick))
+        return quick;
     bool hasDigits = false;
     const size_t len = scanNumber(text, hasDigits);
     if (len == 0)
@@ -172,10 +212,31 @@ std::string FormatText(std::string_view text, std::string_view pattern)
     return Format(Val(text), pattern);
 }
 
+namespace {
+
+// Whole numbers below 10^15, the station's counts and indexes, are just
+// their digits: the general way gives the same text for them.
+bool isShortWhole(double number)
+{
+    return std::fabs(number) < 1e15 && number == std::trunc(number);
+}
+
+// The digits of a short whole number, with a '-' when negative; gives the end.
+char* wholeText(double number, char* out, char* end)
+{
+    return std::to_chars(out, end, static_cast<long long>(number)).ptr;
+}
+
+}  // namespace
+
 std::string StrTrimmed(double number)
 {
     if (number == 0 || !std::isfinite(number))
         return "0";
+    if (isShortWhole(number)) {
+        char buf[24];
+        return std::string(buf, wholeText(number, buf, buf + sizeof buf));
+    }
     const Decimal d = shortDecimal(number);
     std::string out;
     if (number < 0)
@@ -212,6 +273,12 @@ std::string StrTrimmed(double number)
 
 std::string Str(double number)
 {
+    if (isShortWhole(number) && number != 0) {
+        char buf[24];
+        buf[0] = ' ';
+        char* const digits = number < 0 ? buf : buf + 1;
+        return std::string(buf, wholeText(number, digits, buf + sizeof buf));
+    }
     std::string t = StrTrimmed(number);
     if (t.empty() || t[0] != '-')
         t.insert(t.begin(), ' ');
@@ -230,13 +297,20 @@ struct Pattern {
 
 Pattern parsePattern(std::string_view p)
 {
+    // Plain loops: patterns are a few characters long, and this runs for
+    // every number of every list row.
+    auto isPlaceholder = [](char c) { return c == '0' || c == '#' || c == '.'; };
     Pattern pat;
-    const size_t first = p.find_first_of("0#.");
-    const size_t last = p.find_last_of("0#.");
-    if (first == std::string_view::npos) {
+    size_t first = 0;
+    while (first < p.size() && !isPlaceholder(p[first]))
+        ++first;
+    if (first == p.size()) {
         pat.prefix = p;
         return pat;
     }
+    size_t last = p.size() - 1;
+    while (!isPlaceholder(p[last]))
+        --last;
     pat.prefix = p.substr(0, first);
     pat.suffix = p.substr(last + 1);
     bool afterPoint = false;
@@ -333,15 +407,14 @@ void roundDecimal(double x, int decimals, std::string& integerPart, std::string&
     integerPart = nz == std::string::npos ? std::string() : integerPart.substr(nz);
 }
 
-}  // namespace
-
 // The common case without strings in between: a value well inside the
 // range of a long long once scaled, and not within a hair of a half.
+// Appends to out, and leaves it alone when it gives up.
 bool formatQuickly(double number, const Pattern& pat, std::string& out)
 {
     static constexpr double kScale[] = {1, 10, 100, 1000, 10000};
     static constexpr long long kPow[] = {1, 10, 100, 1000, 10000};
-    if (pat.decimals > 4)
+    if (pat.decimals > 4 || pat.prefix.size() >= 16 || pat.minIntegerDigits >= 16)
         return false;
     const double y = std::fabs(number) * kScale[pat.decimals];
     if (!(y < 1e9))
@@ -380,25 +453,26 @@ bool formatQuickly(double number, const Pattern& pat, std::string& out)
         }
         p += pat.decimals;
     }
-    out.assign(buf, p);
+    out.append(buf, p);
     out.append(pat.suffix);
     return true;
 }
 
-std::string Format(double number, std::string_view pattern)
+}  // namespace
+
+void AppendFormat(std::string& out, double number, std::string_view pattern)
 {
     const Pattern pat = parsePattern(pattern);
     if (!std::isfinite(number))
         number = 0;
-    std::string quick;
-    if (pat.prefix.size() < 16 && pat.minIntegerDigits < 16 && formatQuickly(number, pat, quick))
-        return quick;
+    if (formatQuickly(number, pat, out))
+        return;
     std::string integerPart, fraction;
     roundDecimal(number, pat.decimals, integerPart, fraction);
     const bool zero = integerPart.empty() && fraction.find_first_not_of('0') == std::string::npos;
     if (static_cast<int>(integerPart.size()) < pat.minIntegerDigits)
         integerPart.insert(0, static_cast<size_t>(pat.minIntegerDigits) - integerPart.size(), '0');
-    std::string out(pat.prefix);
+    out += pat.prefix;
     if (number < 0 && !zero)
         out.push_back('-');
     out += integerPart;
@@ -407,14 +481,35 @@ std::string Format(double number, std::string_view pattern)
         out += fraction;
     }
     out += pat.suffix;
+}
+
+std::string Format(double number, std::string_view pattern)
+{
+    std::string out;
+    AppendFormat(out, number, pattern);
     return out;
 }
+
+namespace {
+
+// To the nearest whole number, a half to the even neighbour, as nearbyint
+// in the default rounding mode, without a call into the maths library for
+// every value of a table: adding 2^52 leaves no bits below the point.
+double roundHalfEven(double x)
+{
+    constexpr double kTwo52 = 4503599627370496.0;
+    if (!(std::fabs(x) < kTwo52))
+        return std::nearbyint(x);
+    return std::copysign((std::fabs(x) + kTwo52) - kTwo52, x);
+}
+
+}  // namespace
 
 std::optional<std::int16_t> ToInteger(double number)
 {
     if (!std::isfinite(number))
         return std::nullopt;
-    const double r = std::nearbyint(number);
+    const double r = roundHalfEven(number);
     if (r < -32768.0 || r > 32767.0)
         return std::nullopt;
     return static_cast<std::int16_t>(r);
@@ -424,7 +519,7 @@ std::optional<std::int32_t> ToLong(double number)
 {
     if (!std::isfinite(number))
         return std::nullopt;
-    const double r = std::nearbyint(number);
+    const double r = roundHalfEven(number);
     if (r < -2147483648.0 || r > 2147483647.0)
         return std::nullopt;
     return static_cast<std::int32_t>(r);

@@ -27,6 +27,8 @@ std::string StrTrimmed(double number);
 // shown when significant, other characters stand as they are. Rounding is
 // half away from zero on the decimal value of fifteen significant digits.
 std::string Format(double number, std::string_view pattern);
+// The same appended to out, for texts built of many numbers (list rows).
+void AppendFormat(std::string& out, double number, std::string_view pattern);
 
 // A text read from a file through a pattern, as the station has always
 // formatted field texts: a text that reads as a number is formatted, any

@@ -34,6 +34,16 @@ std::string UCase(std::string_view text)
     return out;
 }
 
+bool UCaseEquals(std::string_view text, std::string_view upper)
+{
+    if (text.size() != upper.size())
+        return false;
+    for (size_t i = 0; i < text.size(); ++i)
+        if (std::toupper(static_cast<unsigned char>(text[i])) != static_cast<unsigned char>(upper[i]))
+            return false;
+    return true;
+}
+
 std::string RemoveBlanks(std::string_view text)
 {
     std::string out;
@@ -41,6 +51,13 @@ std::string RemoveBlanks(std::string_view text)
         if (c != ' ')
             out.push_back(c);
     return out;
+}
+
+const std::string& JoinInto(std::string& buffer, std::string_view head, std::string_view tail)
+{
+    buffer.assign(head);
+    buffer.append(tail);
+    return buffer;
 }
 
 bool Contains(std::string_view text, std::string_view part)

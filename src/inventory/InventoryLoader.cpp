@@ -34,6 +34,25 @@ bool deviceNotReady(const std::string& path)
         ;
 }
 
+enum class RecordKind { Reading, Lens, LensChild, Frames, FramesChild, Pair };
+
+// The kind of a record by its first field folded to upper case; anything
+// that is no keyword begins a pair.
+RecordKind recordKind(const std::string& first)
+{
+    if (UCaseEquals(first, "READING"))
+        return RecordKind::Reading;
+    if (UCaseEquals(first, "LENS"))
+        return RecordKind::Lens;
+    if (UCaseEquals(first, "LENSCHILD"))
+        return RecordKind::LensChild;
+    if (UCaseEquals(first, "FRAMES"))
+        return RecordKind::Frames;
+    if (UCaseEquals(first, "FRAMESCHILD"))
+        return RecordKind::FramesChild;
+    return RecordKind::Pair;
+}
+
 }  // namespace
 
 void Frm_Vistrel::Get_Readings()
@@ -74,14 +93,15 @@ void Frm_Vistrel::Get_Readings()
     Frm_ReadingGlasses& reading = readingGlasses();
     Frm_LensFrames& lens = lensFrames();
     const double highestAllowed = Val(opt.Txt_HighestInventoryNumber.text());
+    std::string status;  // written for every record
 
     // 7 to 9.
     for (int i = 1;; ++i) {
         EOF_Found = false;
         const std::string first = Get_Record(handle);
-        const std::string kind = UCase(first);
         const auto row = static_cast<size_t>(i - 1);
-        if (kind == "READING") {
+        const RecordKind kind = recordKind(first);
+        if (kind == RecordKind::Reading) {
             if (const int r = ReadingCellOf(Get_Record(handle)); r >= 0)
                 readingCell = r;
             TextBox& cell = reading.Txt_NNN[readingCell];
@@ -89,8 +109,8 @@ void Frm_Vistrel::Get_Readings()
             if (auto sum = ToInteger(ReadingGlassesTotal + Val(cell.text())))
                 ReadingGlassesTotal = *sum;
             reading.Txt_Total.setText(Format(ReadingGlassesTotal, "000"));
-        } else if (kind == "LENS" || kind == "LENSCHILD") {
-            lensGrid = kind == "LENS" ? 0 : 1;
+        } else if (kind == RecordKind::Lens || kind == RecordKind::LensChild) {
+            lensGrid = kind == RecordKind::Lens ? 0 : 1;
             const std::string sphere = FormatText(Get_Record(handle), "0.00");
             if (const int r = LensRowOf(sphere); r >= 0) {
                 lensRowAt = r;
@@ -103,10 +123,10 @@ void Frm_Vistrel::Get_Readings()
             const std::string quantity = FormatText(Get_Record(handle), "000");
             if (lensRowAt >= 1 && lensColumnAt >= 1)
                 lens.MSF_LensInventory(lensGrid).setTextMatrix(lensRowAt, lensColumnAt, quantity);
-        } else if (kind == "FRAMES" || kind == "FRAMESCHILD") {
+        } else if (kind == RecordKind::Frames || kind == RecordKind::FramesChild) {
             // With a size not in the list the quantity becomes the next
             // record's first field.
-            if (TextBox* box = FrameBoxOf(lens, kind == "FRAMESCHILD", Get_Record(handle)))
+            if (TextBox* box = FrameBoxOf(lens, kind == RecordKind::FramesChild, Get_Record(handle)))
                 box->setText(FormatText(Get_Record(handle), "000"));
         } else {
             if (auto number = ToInteger(Val(first)))
@@ -153,7 +173,7 @@ void Frm_Vistrel::Get_Readings()
                 Inv_Comment[row] = Get_Record(handle);
                 Inv_Extra1[row] = Get_Record(handle);
                 Inv_Extra2[row] = Get_Record(handle);
-                Txt_Status.setText(" Loading... " + Str(i));
+                Txt_Status.setText(JoinInto(status, " Loading... ", Str(i)));
                 platform().doEvents();
                 ++count;
                 InventoryCount = Variant(count);

@@ -11,12 +11,34 @@ namespace vistrel {
 
 namespace {
 
-std::string signedValue(double v)
+// Rows are built by appending to one buffer kept for the whole fill: a
+// fill makes tens of thousands of them.
+
+void appendSigned(std::string& row, double v)
 {
-    return (v >= 0 ? "+" : "") + Format(v, "#0.00");
+    if (v >= 0)
+        row += '+';
+    AppendFormat(row, v, "#0.00");
 }
 
-std::string genderText(std::int16_t code)
+// One eye's columns: sphere, cylinder, axis, add, and in brackets the add
+// on the spherical equivalent.
+void appendEye(std::string& row, double sphere, double cylinder, std::int16_t axis, double add)
+{
+    const double power = add + sphere + cylinder / 2;
+    appendSigned(row, sphere);
+    row += ' ';
+    appendSigned(row, cylinder);
+    row += ' ';
+    AppendFormat(row, axis, "000");
+    row += ' ';
+    appendSigned(row, add);
+    row += power >= 0 ? "(+" : "(";
+    AppendFormat(row, power, "#0.00");
+    row += ')';
+}
+
+const char* genderText(std::int16_t code)
 {
     switch (code) {
     case 1:
@@ -28,6 +50,48 @@ std::string genderText(std::int16_t code)
     default:
         return " E";
     }
+}
+
+// The left list's row of table row r: bag number, the left eye, the
+// pupillary distance and the rejections.
+const std::string& leftRow(std::string& row, const Frm_Vistrel& v, size_t r)
+{
+    row.clear();
+    AppendFormat(row, v.Inv_Number[r], "00000");
+    row += ' ';
+    appendEye(row, v.Inv_LeftSphere[r], v.Inv_LeftCylinder[r], v.Inv_LeftAxis[r], v.Inv_LeftAdd[r]);
+    row.append("    ").append(v.Inv_PD[r]).append(" ").append(Str(v.Inv_RejectCount[r]));
+    return row;
+}
+
+// The right list's row: bag number, the right eye, the letters of the
+// flags, the gender and the comment.
+const std::string& rightRow(std::string& row, const Frm_Vistrel& v, size_t r)
+{
+    row.clear();
+    AppendFormat(row, v.Inv_Number[r], "00000");
+    row += ' ';
+    appendEye(row, v.Inv_RightSphere[r], v.Inv_RightCylinder[r], v.Inv_RightAxis[r], v.Inv_RightAdd[r]);
+    row.append(" (")
+        .append(TrueFalse(v.Inv_Sunglasses[r], "S"))
+        .append(TrueFalse(v.Inv_Reading[r], "R"))
+        .append(TrueFalse(v.Inv_Progressive[r], "P"))
+        .append(TrueFalse(v.Inv_Bifocal[r], "B"))
+        .append(")")
+        .append(genderText(v.Inv_Gender[r]))
+        .append(" ")
+        .append(v.Inv_Comment[r]);
+    return row;
+}
+
+// The person list's row: who received the pair, and its bag number.
+const std::string& personRow(std::string& row, const Frm_Vistrel& v, size_t r)
+{
+    row.clear();
+    AppendFormat(row, v.Inv_PersonNumber[r], " 000000");
+    row += "        ";
+    AppendFormat(row, v.Inv_Number[r], "00000");
+    return row;
 }
 
 }  // namespace
@@ -54,6 +118,7 @@ void Frm_Vistrel::ListInventory()
 
     // 4 to 7.
     ListedCount = 0;
+    std::string status, row;
     const int count = static_cast<int>(InventoryCount.number());
     for (int i = 1; i <= count && i <= InventoryRows; ++i) {
         const auto r = static_cast<size_t>(i - 1);
@@ -68,28 +133,14 @@ void Frm_Vistrel::ListInventory()
             ++ListedCount;
             if (Inv_Number[r] > HighestInventoryNr)
                 HighestInventoryNr = Inv_Number[r];
-            Txt_Status.setText(" Listing.. " + Format(ListedCount, "00000"));
-            const std::string number = Format(Inv_Number[r], "00000") + " ";
-            auto eye = [&](double s, double c, std::int16_t a, double d) {
-                const double power = d + s + c / 2;
-                return signedValue(s) + " " + signedValue(c) + " " + Format(a, "000") + " " + signedValue(d)
-                    + (power >= 0 ? "(+" : "(") + Format(power, "#0.00") + ")";
-            };
-            const std::string left = number
-                + eye(Inv_LeftSphere[r], Inv_LeftCylinder[r], Inv_LeftAxis[r], Inv_LeftAdd[r]) + "    " + Inv_PD[r]
-                + " " + Str(Inv_RejectCount[r]);
-            const std::string right = number
-                + eye(Inv_RightSphere[r], Inv_RightCylinder[r], Inv_RightAxis[r], Inv_RightAdd[r]) + " ("
-                + TrueFalse(Inv_Sunglasses[r], "S") + TrueFalse(Inv_Reading[r], "R")
-                + TrueFalse(Inv_Progressive[r], "P") + TrueFalse(Inv_Bifocal[r], "B") + ")" + genderText(Inv_Gender[r])
-                + " " + Inv_Comment[r];
-            Lst_LeftInventory.addItem(left, i);
-            Lst_RightInventory.addItem(right, i);
+            Txt_Status.setText(JoinInto(status, " Listing.. ", Format(ListedCount, "00000")));
+            Lst_LeftInventory.addItem(leftRow(row, *this, r), i);
+            Lst_RightInventory.addItem(rightRow(row, *this, r), i);
         } else {
             ++used;
             Txt_Used.setText(Format(used, "0000"));
         }
-        Txt_Status.setText(" Listed... " + Format(ListedCount, "0000"));
+        Txt_Status.setText(JoinInto(status, " Listed... ", Format(ListedCount, "0000")));
     }
 }
 
@@ -119,6 +170,7 @@ void Frm_Vistrel::ListPersons()
     const unsigned listing = ++personListings_;
     Lst_PersonsList.clear();
     PersonsListed = 0;
+    std::string status, row;
     const int count = static_cast<int>(InventoryCount.number());
     for (int i = 1; i <= count && i <= InventoryRows; ++i) {
         const auto r = static_cast<size_t>(i - 1);
@@ -130,8 +182,8 @@ void Frm_Vistrel::ListPersons()
         show();
         ++PersonsListed;
         Txt_Used.setText(Format(PersonsListed, "0000"));
-        Lst_PersonsList.addItem(Format(Inv_PersonNumber[r], " 000000") + "        " + Format(Inv_Number[r], "00000"), i);
-        Txt_Status.setText(" Persons.. " + Format(PersonsListed, "0000"));
+        Lst_PersonsList.addItem(personRow(row, *this, r), i);
+        Txt_Status.setText(JoinInto(status, " Persons.. ", Format(PersonsListed, "0000")));
     }
     // 5.
     if (networked)

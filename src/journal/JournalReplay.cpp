@@ -14,6 +14,31 @@
 
 namespace vistrel {
 
+namespace {
+
+enum class RecordKind { Reading, Lens, LensChild, Frames, FramesChild, Measurement, Dispensing };
+
+// The kind of a record by its first field folded to upper case; anything
+// that is no keyword is a dispensing record.
+RecordKind recordKind(const std::string& first)
+{
+    if (UCaseEquals(first, "READING"))
+        return RecordKind::Reading;
+    if (UCaseEquals(first, "LENS"))
+        return RecordKind::Lens;
+    if (UCaseEquals(first, "LENSCHILD"))
+        return RecordKind::LensChild;
+    if (UCaseEquals(first, "FRAMES"))
+        return RecordKind::Frames;
+    if (UCaseEquals(first, "FRAMESCHILD"))
+        return RecordKind::FramesChild;
+    if (UCaseEquals(first, "MEASUREMENT"))
+        return RecordKind::Measurement;
+    return RecordKind::Dispensing;
+}
+
+}  // namespace
+
 void Frm_Vistrel::LoadJournalFile(const std::string& word)
 {
     FileHandles& files = station().files();
@@ -75,33 +100,34 @@ void Frm_Vistrel::LoadJournalFile(const std::string& word)
 // ends the replay.
 bool Frm_Vistrel::replayRecord(std::int16_t handle, const std::string& first, ReplayCursor& cursor)
 {
-    const std::string kind = UCase(first);
+    const RecordKind kind = recordKind(first);
     Frm_LensFrames& lens = lensFrames();
 
-    if (kind == "READING") {
+    if (kind == RecordKind::Reading) {
         if (const int cell = ReadingCellOf(Get_Record(handle)); cell >= 0)
             cursor.readingCell = cell;
         readingGlasses().Txt_NNN[cursor.readingCell].setText(FormatText(Get_Record(handle), "000"));
         return true;
     }
-    if (kind == "LENS" || kind == "LENSCHILD") {
+    if (kind == RecordKind::Lens || kind == RecordKind::LensChild) {
         // No high-power grid here: a sphere beyond 6.00 keeps the row before.
         if (const int row = LensRowOf(FormatText(Get_Record(handle), "0.00")); row >= 0)
             cursor.lensRow = row;
         if (const int column = LensColumnOf(FormatText(Get_Record(handle), "0.00")); column >= 0)
             cursor.lensColumn = column;
         const std::string quantity = FormatText(Get_Record(handle), "000");
+        const int grid = kind == RecordKind::Lens ? 0 : 1;
         if (cursor.lensRow >= 1 && cursor.lensColumn >= 1)
-            lens.MSF_LensInventory(kind == "LENS" ? 0 : 1).setTextMatrix(cursor.lensRow, cursor.lensColumn, quantity);
+            lens.MSF_LensInventory(grid).setTextMatrix(cursor.lensRow, cursor.lensColumn, quantity);
         return true;
     }
-    if (kind == "FRAMES" || kind == "FRAMESCHILD") {
+    if (kind == RecordKind::Frames || kind == RecordKind::FramesChild) {
         // A size not in the list leaves the quantity to start the next record.
-        if (TextBox* box = FrameBoxOf(lens, kind == "FRAMESCHILD", Get_Record(handle)))
+        if (TextBox* box = FrameBoxOf(lens, kind == RecordKind::FramesChild, Get_Record(handle)))
             box->setText(FormatText(Get_Record(handle), "000"));
         return true;
     }
-    if (kind == "MEASUREMENT")
+    if (kind == RecordKind::Measurement)
         return replayMeasurement(handle);
     return replayDispensing(handle, first);
 }
@@ -153,10 +179,9 @@ bool Frm_Vistrel::replayDispensing(std::int16_t handle, const std::string& first
         return false;
     const auto row = static_cast<size_t>(*index - 1);
     Inv_PersonNumber[row] = *person;
-    const std::string upper = UCase(flag);
-    if (upper == "TRUE") {
+    if (UCaseEquals(flag, "TRUE")) {
         Inv_Removed[row] = true;
-    } else if (upper == "FALSE") {
+    } else if (UCaseEquals(flag, "FALSE")) {
         Inv_Removed[row] = false;
     } else {
         const auto rejects = ToInteger(Val(flag));
