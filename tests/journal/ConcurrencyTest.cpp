@@ -45,10 +45,10 @@ const std::array<Measurement, Stations> Measured = {{
     {"-0.75", "0.00", "0", "-0.50", "-1.50", "10"},
 }};
 
-// Station k (1-based) gives out rows (k-1)*1000 to k*1000-1 of the stock
-// list, which are table indexes (k-1)*1000+1 to k*1000, to person k. With
-// "refresh on add/remove" off the list keeps its rows, so the row numbers
-// hold for the whole script.
+// Station k (1-based) gives out table indexes (k-1)*1000+1 to k*1000 to
+// person k. The rows of a station's stock list depend on what the others had
+// given out when it started, so each pair is named by its table index, as
+// the click on its row would name it, and handed to the dispensing question.
 std::string stationScript(int k)
 {
     const Measurement& m = Measured[static_cast<size_t>(k - 1)];
@@ -59,9 +59,10 @@ std::string stationScript(int k)
     script += std::string("set Frm_Vistrel.Txt_Sphere_Right ") + m.sphereRight + "\n";
     script += std::string("set Frm_Vistrel.Txt_Cylinder_Right ") + m.cylinderRight + "\n";
     script += std::string("set Frm_Vistrel.Txt_Axis_Right ") + m.axisRight + "\n";
-    for (int r = 0; r < PairsEach; ++r)
-        script += "answer Frm_RemoveRejectInventory.Cmd_RemoveInventory\nclick Frm_Vistrel.Lst_LeftInventory "
-            + std::to_string((k - 1) * PairsEach + r) + "\n";
+    script += "set Frm_Vistrel.ReturnInventoryFlag False\n";
+    for (int r = 1; r <= PairsEach; ++r)
+        script += "set Frm_Vistrel.SelectedIndex " + std::to_string((k - 1) * PairsEach + r)
+            + "\nanswer Frm_RemoveRejectInventory.Cmd_RemoveInventory\ncall Frm_Vistrel.Announce_Selection\n";
     return script;
 }
 
