@@ -66,9 +66,21 @@ void ControlBinding::apply(Prop prop)
         if (onTabIndexChanged)
             onTabIndexChanged();
         break;
+    case Prop::Focus:
+        giveFocus();
+        break;
     default:
         break;
     }
+}
+
+void ControlBinding::giveFocus()
+{
+    QWidget* w = focusWidget();
+    if (!w->isEnabled())
+        return;
+    // A window in the background takes the focus when it comes forward.
+    w->setFocus(Qt::OtherFocusReason);
 }
 
 void ControlBinding::applyColors()
@@ -76,8 +88,13 @@ void ControlBinding::applyColors()
     QWidget* w = widget_;
     const QPalette base = w->parentWidget() ? QApplication::palette(w) : QApplication::palette();
     w->setPalette(controlPalette(base, backRole(), foreRole(), control_->backColor(), control_->foreColor()));
-    if (fillsBackground())
-        w->setAutoFillBackground(true);
+    w->setAutoFillBackground(fillsBackground());
+}
+
+bool ControlBinding::fillsBackground() const
+{
+    const Control* box = control_->container();
+    return control_->backColor() != (box ? box->backColor() : colors::ButtonFace);
 }
 
 void ControlBinding::forwardClicks(QObject* target, bool clicks, bool doubleClicks)

@@ -45,7 +45,10 @@ protected:
     // whether the widget fills its background itself.
     virtual QPalette::ColorRole backRole() const { return QPalette::Window; }
     virtual QPalette::ColorRole foreRole() const { return QPalette::WindowText; }
-    virtual bool fillsBackground() const { return true; }
+    // By default, when its colour differs from the container's: a control
+    // drawn in the colour of its box lets the box show, as the style shades
+    // a group box's panel.
+    virtual bool fillsBackground() const;
     virtual bool fixedPitch() const { return false; }
 
     // Mouse clicks and double clicks on this object raise the control's
@@ -65,6 +68,10 @@ protected:
     };
 
     const Metrics& metrics() const { return metrics_; }
+
+    // The widget that takes the keyboard when the core asks for the focus.
+    virtual QWidget* focusWidget() const { return widget_; }
+    virtual void giveFocus();
 
 private:
     void applyColors();

@@ -2,10 +2,13 @@
 
 #include "TextConversion.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -44,10 +47,26 @@ public:
         setSizeGripEnabled(false);
     }
 
-    // Escape closes nothing by itself: the screens have their own buttons.
-    void reject() override {}
+    // Escape is the close box: the screen decides what leaving means (a
+    // question's close box is its Cancel).
+    void reject() override { closeBox_(); }
 
 protected:
+    // Enter presses the button that has the focus, as on the desktop the
+    // screens were drawn for. No button is a default one otherwise, so
+    // Enter in a text box presses nothing.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enter && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+            if (auto* button = qobject_cast<QPushButton*>(focusWidget());
+                button && button->isVisible() && button->isEnabled())
+                button->click();
+            return;
+        }
+        QDialog::keyPressEvent(event);
+    }
+
     void closeEvent(QCloseEvent* event) override
     {
         event->ignore();
@@ -152,6 +171,14 @@ void FormWindow::applyVisibility()
         if (window_->isVisible() && window_->windowModality() != modality)
             window_->hide();  // modality changes only while hidden
         if (!window_->isVisible()) {
+            // The focus goes back where it was once this window goes: to
+            // the caret of the window that was active, or of the one this
+            // window belongs to while the desktop has not yet told which
+            // window is active.
+            QWidget* focus = QApplication::focusWidget();
+            if (!focus && window_->parentWidget())
+                focus = window_->parentWidget()->window()->focusWidget();
+            returnFocus_ = focus && focus->window() != window_ ? focus : nullptr;
             window_->setWindowModality(modality);
             window_->show();
         }
@@ -163,10 +190,22 @@ void FormWindow::applyVisibility()
         activateTimers();
     } else {
         shownByCore_ = false;
-        if (window_->isVisible())
+        if (window_->isVisible()) {
             window_->hide();
+            restoreFocus();
+        }
         emit hidden();
     }
+}
+
+void FormWindow::restoreFocus()
+{
+    QWidget* back = returnFocus_;
+    returnFocus_ = nullptr;
+    if (!back || !back->isVisible() || !back->isEnabled())
+        return;
+    back->window()->activateWindow();
+    back->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::activateTimers()
@@ -176,6 +215,16 @@ void FormWindow::activateTimers()
     timersActive_ = true;
     for (const auto& t : binder_.timers())
         t->setActive(true);
+    emit timersActivated();
+}
+
+void FormWindow::settleFocus()
+{
+    // The screen's activation may have hidden the control that had the
+    // caret, or shown an earlier one (a question shows the buttons that
+    // fit it): start over.
+    if (window_ && window_->isVisible())
+        focusFirst();
 }
 
 void FormWindow::focusFirst()

@@ -40,17 +40,27 @@ public:
     // Chains the focusable widgets by the controls' TabIndex.
     void updateTabOrder();
 
+    // Once the screen's activation has run: the caret goes to the first
+    // control by TabIndex as the activation left the controls.
+    void settleFocus();
+
+    // Starts the screen's timers (once it has been shown, or once the
+    // station's main screen has).
+    void activateTimers();
+
 signals:
     // The form is not (or no longer) visible.
     void hidden();
+    // The screen's timers have started.
+    void timersActivated();
 
 private:
     void applyCaption();
     void applyGeometry();
     void applyVisibility();
     void scheduleTabOrder();
-    void activateTimers();
     void focusFirst();
+    void restoreFocus();
 
     Form& form_;
     Kind kind_;
@@ -63,6 +73,7 @@ private:
     bool tabOrderPending_ = false;
     bool timersActive_ = false;
     bool shownByCore_ = false;
+    QPointer<QWidget> returnFocus_;
 };
 
 }  // namespace vistrel::qt

@@ -1,6 +1,7 @@
 #include "ListBinding.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -20,6 +21,7 @@ ListBinding::ListBinding(ListBox& list, QWidget* parent, const Metrics& metrics)
     view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     view_->setTextElideMode(Qt::ElideNone);
     view_->viewport()->installEventFilter(this);
+    view_->installEventFilter(this);
 
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
         [this](const QModelIndex& current) {
@@ -44,6 +46,16 @@ bool ListBinding::eventFilter(QObject* watched, QEvent* event)
             mousePress_ = true;
         else if (event->type() == QEvent::MouseButtonRelease)
             mousePress_ = false;
+    } else if (watched == view_ && event->type() == QEvent::KeyPress) {
+        // Enter or Space on the chosen row clicks it again, as a second
+        // mouse click on it does: a question cancelled can be asked anew.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool press = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Space;
+        const QModelIndex current = view_->currentIndex();
+        if (press && (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && current.isValid() && !key->isAutoRepeat()) {
+            chosen(current.row());
+            return true;
+        }
     }
     return ControlBinding::eventFilter(watched, event);
 }
@@ -80,6 +92,11 @@ void ListBinding::listCleared(ListBox& /*list*/)
 
 void ListBinding::applyAllOwn()
 {
+    // A list whose scrolling the screen follows moves with another: both
+    // keep their sideways bar, so that their rows stand at the same
+    // heights whether their texts are wide or not.
+    if (list_.onScroll)
+        view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     {
         Mirror mirror(*this);
         model_->reload();

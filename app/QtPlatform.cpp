@@ -116,6 +116,8 @@ void QtPlatform::messageBox(const std::string& title, const std::string& text, M
 void QtPlatform::runModal(Form& form)
 {
     FormWindow* window = windows_ ? windows_->windowFor(form) : nullptr;
+    if (window)
+        window->settleFocus();
     if (watcher_ && form.visible())
         watcher_->modalShown(form, window ? window->window() : nullptr);
     while (form.visible()) {

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace vistrel::qt {
@@ -34,6 +35,16 @@ std::optional<ScreenAction> parseScreenAction(ScreenAction::Kind kind, const QSt
             return std::nullopt;
         target = argument.left(equals);
         action.text = argument.mid(equals + 1);
+    }
+    if (const qsizetype at = target.indexOf(QLatin1Char('@')); kind == ScreenAction::Kind::Press && at > 0) {
+        const QStringList place = target.mid(at + 1).split(QLatin1Char(','));
+        bool rowOk = false, colOk = true;
+        action.row = place.value(0).toInt(&rowOk);
+        if (place.size() > 1)
+            action.col = place[1].toInt(&colOk);
+        if (!rowOk || !colOk || place.size() > 2 || action.row < 0 || (place.size() > 1 && action.col < 0))
+            return std::nullopt;
+        target = target.left(at);
     }
     const qsizetype dot = target.indexOf(QLatin1Char('.'));
     if (dot <= 0 || dot + 1 >= target.size())
@@ -91,6 +102,11 @@ void Screenshot::perform(const ScreenAction& action)
         return;
     }
     if (action.kind == ScreenAction::Kind::Press) {
+        // A row or a cell is chosen as a person chooses it, then clicked.
+        if (action.row >= 0 && control->kind() == ControlKind::ListBox)
+            static_cast<ListBox*>(control)->setListIndex(action.row);
+        else if (action.row >= 0 && control->kind() == ControlKind::Grid)
+            static_cast<Grid*>(control)->moveTo(action.row, std::max(action.col, 0));
         control->click();
     } else if (control->kind() == ControlKind::TextBox) {
         static_cast<TextBox*>(control)->setText(toCore(action.text));
@@ -113,19 +129,32 @@ void Screenshot::messageShown(QMessageBox& box)
 void Screenshot::modalShown(Form& form, QWidget* window)
 {
     const QString path = pathFor(file_, QString::fromStdString(form.name()));
-    QTimer::singleShot(SettleMs, this, [this, &form, window, path] {
+    std::vector<ScreenAction> steps;
+    for (const ScreenAction& action : actions_)
+        if (action.form.toStdString() == form.name())
+            steps.push_back(action);
+    std::optional<ScreenAction> closing;
+    for (auto it = steps.rbegin(); it != steps.rend(); ++it) {
+        if (it->kind == ScreenAction::Kind::Press) {
+            closing = *it;
+            steps.erase(std::next(it).base());
+            break;
+        }
+    }
+    QTimer::singleShot(SettleMs, this, [this, &form, window, path, steps, closing] {
         if (!form.visible())
             return;
-        save(window, path);
-        for (const ScreenAction& action : actions_) {
-            if (action.kind == ScreenAction::Kind::Press && action.form.toStdString() == form.name()) {
-                if (Control* press = target(action)) {
-                    press->click();
-                    return;
-                }
-            }
-        }
-        form.closeBox();
+        for (const ScreenAction& action : steps)
+            perform(action);
+        QTimer::singleShot(steps.empty() ? 0 : SettleMs, this, [this, &form, window, path, closing] {
+            if (!form.visible())
+                return;
+            save(window, path);
+            if (closing)
+                perform(*closing);
+            if (form.visible())
+                form.closeBox();
+        });
     });
 }
 

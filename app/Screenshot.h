@@ -16,7 +16,9 @@ namespace vistrel::qt {
 class StationWindows;
 
 // Something done to a screen in a picture-taking run: a click on a
-// control ("--press Frm_X.Cmd_Go") or a text typed into a text box
+// control ("--press Frm_X.Cmd_Go"), on a row of a list
+// ("--press Frm_X.Lst_Rows@2") or on a cell of a grid, headings counted
+// ("--press Frm_X.Grd_Cells(0)@5,3"), or a text typed into a text box
 // ("--type Frm_X.Txt_Age=45").
 struct ScreenAction {
     enum class Kind { Press, Type };
@@ -24,16 +26,19 @@ struct ScreenAction {
     QString form;
     QString control;
     int index = -1;
+    int row = -1;
+    int col = -1;
     QString text;
 };
 std::optional<ScreenAction> parseScreenAction(ScreenAction::Kind kind, const QString& argument);
 
-// The picture-taking run (--screenshot FILE): every modal dialog and
-// message box of the start-up is saved as FILE-<name>.png and closed (a
-// dialog by its first --press, else by its close box). Once the start-up
-// is over, the actions for the screens then open are done in order, and
-// the main window is saved as FILE, any other open window as
-// FILE-<form>.png, and the program ends.
+// The picture-taking run (--screenshot FILE): every message box is saved
+// as FILE-messageN.png and closed. A modal screen that comes up gets the
+// actions meant for it, in order, except its last --press; then it is
+// saved as FILE-<form>.png and closed by that last press, or by its close
+// box when it has none. Once the start-up is over, the actions for the
+// screens then open are done in order, and the main window is saved as
+// FILE, any other open window as FILE-<form>.png, and the program ends.
 class Screenshot : public QObject, public DialogWatcher {
     Q_OBJECT
 public:

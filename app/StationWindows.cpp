@@ -10,6 +10,13 @@ StationWindows::StationWindows(const std::vector<Form*>& forms, Form& mainForm, 
         if (form != &mainForm)
             windows_.push_back(
                 std::make_unique<FormWindow>(*form, FormWindow::Kind::Dialog, metrics, main_->window()));
+    // The main screen's start touches every other screen, which loads it:
+    // their timers (the serial line's look at its buffer) run from then on,
+    // shown or not.
+    QObject::connect(main_, &FormWindow::timersActivated, main_, [this] {
+        for (const auto& w : windows_)
+            w->activateTimers();
+    });
 }
 
 StationWindows::~StationWindows()

@@ -2,11 +2,19 @@
 
 #include "TextConversion.h"
 
+#include <QStyle>
+
 #include <algorithm>
 
 namespace vistrel::qt {
 
 namespace {
+
+// Writes less than this apart are a burst; the first few of a burst are
+// shown at once, later ones this often.
+constexpr qint64 BurstGapNs = 2'000'000;
+constexpr int BurstShownAtOnce = 8;
+constexpr int BurstRefreshMs = 40;
 
 QWidget* makeEditor(const TextBox& box, QWidget* parent)
 {
@@ -30,6 +38,39 @@ TextBinding::TextBinding(TextBox& box, QWidget* parent, const Metrics& metrics)
         connect(line_, &QLineEdit::textEdited, this, &TextBinding::edited);
         forwardClicks(line_);
     }
+    pendingShow_.setSingleShot(true);
+    connect(&pendingShow_, &QTimer::timeout, this, &TextBinding::showCoreText);
+}
+
+void TextBinding::coreTextChanged()
+{
+    const bool close = lastWrite_.isValid() && lastWrite_.nsecsElapsed() < BurstGapNs;
+    lastWrite_.start();
+    burst_ = close ? burst_ + 1 : 0;
+    if (editing_ || burst_ < BurstShownAtOnce) {
+        showCoreText();
+        return;
+    }
+    if (!pendingShow_.isActive())
+        pendingShow_.start(BurstRefreshMs);
+}
+
+void TextBinding::giveFocus()
+{
+    ControlBinding::giveFocus();
+    // As when tabbed into: what is typed replaces the text.
+    if (line_ && line_->hasFocus())
+        line_->selectAll();
+}
+
+void TextBinding::fitFrame()
+{
+    // A box drawn barely taller than its text, such as one laid over a
+    // grid cell, has no room for a frame around the text.
+    if (!line_)
+        return;
+    const int needed = line_->fontMetrics().height() + 2 * line_->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 2;
+    line_->setFrame(line_->height() >= needed);
 }
 
 void TextBinding::applyAllOwn()
@@ -42,7 +83,12 @@ void TextBinding::apply(Prop prop)
 {
     switch (prop) {
     case Prop::Text:
-        showCoreText();
+        coreTextChanged();
+        break;
+    case Prop::Geometry:
+    case Prop::Font:
+        ControlBinding::apply(prop);
+        fitFrame();
         break;
     case Prop::Locked:
         if (line_)
@@ -77,6 +123,7 @@ void TextBinding::multiLineEdited()
 
 void TextBinding::showCoreText()
 {
+    pendingShow_.stop();
     Mirror mirror(*this);
     if (multi_) {
         const QString text = toWidgetLines(box_.text());

@@ -4,14 +4,20 @@
 
 #include "core/screen/Controls.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 namespace vistrel::qt {
 
 // A text box. Each edit by a person goes to TextBox::setText at once; the
 // core's change handler may rewrite the text, and the widget then shows
 // the core's text with the caret kept where the person was typing.
+//
+// A box the core rewrites many times in a row (the status during a load
+// of 32000 records) is shown a few times a second only: laying out the
+// text anew for every record would take longer than the load.
 class TextBinding : public ControlBinding {
     Q_OBJECT
 public:
@@ -24,6 +30,7 @@ public:
 protected:
     void apply(Prop prop) override;
     void applyAllOwn() override;
+    void giveFocus() override;
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     QPalette::ColorRole foreRole() const override { return QPalette::Text; }
     bool fillsBackground() const override { return false; }
@@ -32,6 +39,8 @@ private:
     void edited(const QString& text);
     void multiLineEdited();
     void showCoreText();
+    void coreTextChanged();
+    void fitFrame();
 
     TextBox& box_;
     QLineEdit* line_ = nullptr;
@@ -40,6 +49,11 @@ private:
     bool editing_ = false;
     int typedCursor_ = 0;
     int typedLength_ = 0;
+    // Rewrites by the core that come close upon each other, and the timer
+    // that shows the last of them.
+    QElapsedTimer lastWrite_;
+    int burst_ = 0;
+    QTimer pendingShow_;
 };
 
 }  // namespace vistrel::qt

@@ -20,6 +20,7 @@ public:
     // Set once the screen has been shown for the first time.
     void setActive(bool active);
     bool running() const { return qtimer_.isActive(); }
+    const Timer& timer() const { return timer_; }
 
     void controlChanged(Control& control, Prop prop) override;
 

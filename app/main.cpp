@@ -1,7 +1,17 @@
 // vistrel: the station's window program.
 //
 //   vistrel [station arguments]
-//           [--screenshot FILE [--press FORM.CONTROL | --type FORM.CONTROL=TEXT]...]
+//           [--screenshot FILE [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]
+//           [--timing]
+//
+// --press with @ROW clicks a row of a list, with @ROW,COL a cell of a grid
+// (headings counted). A modal screen gets the actions meant for it before
+// its picture is taken, except its last --press, which closes it.
+//
+// --timing prints how long the start took until the main window was up
+// and until the stock lists were filled, then refills the stock lists as
+// CLEAR & RELOAD does and prints how long the window waited meanwhile, and
+// ends the program.
 //
 // VISTREL_DOCUMENTS and VISTREL_SHARED name the documents folder and the
 // shared data folder, VISTREL_SCALE enlarges the screens, VISTREL_COM<n>
@@ -17,9 +27,11 @@
 #include "core/Station.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QStyleFactory>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -28,6 +40,7 @@ namespace {
 
 struct Options {
     QString screenshot;
+    bool timing = false;
     std::vector<vistrel::qt::ScreenAction> actions;
     QStringList stationArguments;
     bool valid = true;
@@ -38,6 +51,10 @@ Options parseOptions(const QStringList& arguments)
     Options options;
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         const QString& arg = arguments[i];
+        if (arg == QLatin1String("--timing")) {
+            options.timing = true;
+            continue;
+        }
         const bool press = arg == QLatin1String("--press");
         const bool type = arg == QLatin1String("--type");
         if (arg == QLatin1String("--screenshot") || press || type) {
@@ -64,6 +81,27 @@ Options parseOptions(const QStringList& arguments)
     return options;
 }
 
+// A refill of the stock lists, timed: how long it takes, and the longest
+// the window went without a pass of its event loop meanwhile.
+void reportRefill(vistrel::Control& reload, const vistrel::ListBox& list)
+{
+    QElapsedTimer refill;
+    QElapsedTimer sinceTick;
+    qint64 longestGap = 0;
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, [&] {
+        longestGap = std::max(longestGap, sinceTick.restart());
+    });
+    ticker.start(5);
+    refill.start();
+    sinceTick.start();
+    reload.click();
+    longestGap = std::max(longestGap, sinceTick.elapsed());
+    std::fprintf(stderr,
+        "timing: refill of the stock lists took %lld ms (%d rows), the window waited %lld ms at most\n",
+        static_cast<long long>(refill.elapsed()), list.listCount(), static_cast<long long>(longestGap));
+}
+
 // A picture-taking run that hangs (a dialog nobody closes) ends itself.
 constexpr int ScreenshotTimeoutMs = 120000;
 
@@ -71,6 +109,8 @@ constexpr int ScreenshotTimeoutMs = 120000;
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer clock;
+    clock.start();
     QApplication app(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setApplicationName(QStringLiteral("Vistrel"));
@@ -80,7 +120,8 @@ int main(int argc, char** argv)
     const Options options = parseOptions(QApplication::arguments());
     if (!options.valid) {
         std::fprintf(stderr,
-            "usage: vistrel [--screenshot FILE [--press FORM.CONTROL | --type FORM.CONTROL=TEXT]...]\n");
+            "usage: vistrel [--screenshot FILE [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]"
+            " [--timing]\n");
         return 2;
     }
 
@@ -112,7 +153,19 @@ int main(int argc, char** argv)
     // The start-up runs inside the event loop, so the window is up and
     // shows the progress of the load.
     QTimer::singleShot(0, [&] {
+        if (options.timing)
+            std::fprintf(stderr, "timing: main window shown after %lld ms\n", static_cast<long long>(clock.elapsed()));
         station.start();
+        if (options.timing) {
+            QCoreApplication::processEvents();
+            auto& vistrel = station.vistrel();
+            std::fprintf(stderr, "timing: lists filled after %lld ms (stock rows %d, persons %d)\n",
+                static_cast<long long>(clock.elapsed()), vistrel.Lst_LeftInventory.listCount(),
+                vistrel.Lst_PersonsList.listCount());
+            reportRefill(vistrel.Cmd_ClearReload, vistrel.Lst_LeftInventory);
+            QCoreApplication::exit(0);
+            return;
+        }
         if (screenshot)
             screenshot->finish();
     });

@@ -12,6 +12,7 @@ namespace {
 
 const Font kFixed{"Courier New", 8, false};
 const Font kFixedBold{"Courier New", 9, true};
+const Font kWarning{"MS Sans Serif", 12, true};
 
 }  // namespace
 
@@ -228,20 +229,22 @@ void Frm_Vistrel::design()
     Txt_YearsOverMinus.setText("35");
     place(Lbl_YearsOverMinus, &Frm_SearchFor, 1050, 1530, 1140, 225, "or greater");
     place(Frm_Gender, &Frm_SearchFor, 60, 1770, 2160, 1290, "Gender");
-    place(Opt_DoNotCare, &Frm_Gender, 90, 210, 1020, 240, "Any");
-    place(Opt_EitherMaleFemale, &Frm_Gender, 90, 450, 1020, 240, "Adult");
-    place(Opt_Female, &Frm_Gender, 1110, 210, 1020, 240, "Female");
-    place(Opt_Male, &Frm_Gender, 1110, 450, 1020, 240, "Male");
-    place(Opt_Child, &Frm_Gender, 90, 690, 1020, 240, "Child");
-    place(Chk_Add_Either, &Frm_Gender, 1110, 690, 1020, 240, "+Either", "Male && Female searches include Either.");
+    // Two columns of options; the right one starts early enough for
+    // "Progressive" to fit inside the frame.
+    place(Opt_DoNotCare, &Frm_Gender, 45, 210, 915, 240, "Any");
+    place(Opt_EitherMaleFemale, &Frm_Gender, 45, 450, 915, 240, "Adult");
+    place(Opt_Female, &Frm_Gender, 960, 210, 1185, 240, "Female");
+    place(Opt_Male, &Frm_Gender, 960, 450, 1185, 240, "Male");
+    place(Opt_Child, &Frm_Gender, 45, 690, 915, 240, "Child");
+    place(Chk_Add_Either, &Frm_Gender, 960, 690, 1185, 240, "+Either", "Male && Female searches include Either.");
     Opt_DoNotCare.selectQuietly();
     place(Frm_LensType, &Frm_SearchFor, 60, 3090, 2160, 1230, "Lens type");
-    place(Opt_LensDoNotCare, &Frm_LensType, 90, 210, 1020, 240, "Any");
-    place(Opt_LensSingle, &Frm_LensType, 1110, 210, 1020, 240, "Single");
-    place(Opt_LensBiFocal, &Frm_LensType, 90, 450, 1020, 240, "Bifocal");
-    place(Opt_Progressive, &Frm_LensType, 1110, 450, 1020, 240, "Progressive");
-    place(Opt_Readers, &Frm_LensType, 90, 690, 1020, 240, "Readers");
-    place(Chk_AutoBypass, &Frm_LensType, 1110, 690, 1020, 240, "Typed", "The prescription was typed, not captured.");
+    place(Opt_LensDoNotCare, &Frm_LensType, 45, 210, 915, 240, "Any");
+    place(Opt_LensSingle, &Frm_LensType, 960, 210, 1185, 240, "Single");
+    place(Opt_LensBiFocal, &Frm_LensType, 45, 450, 915, 240, "Bifocal");
+    place(Opt_Progressive, &Frm_LensType, 960, 450, 1185, 240, "Progressive");
+    place(Opt_Readers, &Frm_LensType, 45, 690, 915, 240, "Readers");
+    place(Chk_AutoBypass, &Frm_LensType, 960, 690, 1185, 240, "Typed", "The prescription was typed, not captured.");
     Opt_LensDoNotCare.selectQuietly();
 
     // ---- Command row ----
@@ -257,7 +260,8 @@ void Frm_Vistrel::design()
     place(Txt_PrintNr, nullptr, 5190, row + 45, 450, 330, {},
         "Enter the number of lines from the below list to include in the printout.");
     Txt_PrintNr.setText("5");
-    place(Lbl_PrintLines, nullptr, 5670, row + 90, 1560, 255, "  lines of below list plus");
+    // Two lines within the height of the row's buttons.
+    place(Lbl_PrintLines, nullptr, 5670, row, 1560, 420, "  lines of below list plus");
     place(Chk_Prescription, nullptr, 7230, row + 75, 300, 270);
     place(Cmd_PrescriptionSave, nullptr, 7590, row, 1680, 420, "Save UN-Matched",
         "Click to save current prescription to file as one you could NOT find in inventory.");
@@ -315,23 +319,25 @@ void Frm_Vistrel::design()
         "Glasses Bag number, Left Sphere Power, Left Cylinder Astigmatism Power, Left Astigmatism Axis, "
         "Left Progressive/Bifocal Add, Number of times rejected");
     place(Lst_LeftInventory, &Frm_LeftInventory, 60, 420, 4980, 1620, {}, "Click on a pair to remove or reject it.");
-    place(Frm_RightInventory, nullptr, 5220, 8310, 5100, 2100, "Right Inventory");
-    place(Lbl_RightInventoryHeads, &Frm_RightInventory, 90, 210, 4950, 210,
+    // The right list gives up a little width so that the person list's
+    // rows fit in theirs without a sideways scroll.
+    place(Frm_RightInventory, nullptr, 5220, 8310, 4680, 2100, "Right Inventory");
+    place(Lbl_RightInventoryHeads, &Frm_RightInventory, 90, 210, 4530, 210,
         "Nr.   SPH   CYL   Axis Add  (Pwr)  (S R P B) G Comment",
         "Gender:  E=Either, F= Female, M=Male, C=Child.  Sunglasses Column (S/x=Yes/No), "
         "Reading Glasses Column (R/x=Yes/No), Progressive Lens Column (P/x=Yes/No), Bifocals Column (B/x=Yes/No)");
-    place(Lst_RightInventory, &Frm_RightInventory, 60, 420, 4980, 1620, {},
+    place(Lst_RightInventory, &Frm_RightInventory, 60, 420, 4560, 1620, {},
         "Click on a pair to remove or reject it.");
     Lbl_LeftInventoryHeads.setFont(kFixed);
     Lbl_RightInventoryHeads.setFont(kFixed);
     Lst_LeftInventory.setFont(kFixed);
     Lst_RightInventory.setFont(kFixed);
-    place(Frm_Persons, nullptr, 10380, 8310, 1980, 2100, "Persons list and glasses.");
-    place(Lbl_PersonNrs, &Frm_Persons, 60, 210, 900, 225, "Person Nrs");
-    place(Lbl_GlassesNrs, &Frm_Persons, 960, 210, 960, 225, "Glasses Nrs");
-    place(Lst_PersonsList, &Frm_Persons, 60, 450, 1860, 1140, {}, "Click on a line to return glasses to inventory.");
+    place(Frm_Persons, nullptr, 9960, 8310, 2400, 2100, "Persons list and glasses.");
+    place(Lbl_PersonNrs, &Frm_Persons, 60, 210, 1200, 225, "Person Nrs");
+    place(Lbl_GlassesNrs, &Frm_Persons, 1320, 210, 1020, 225, "Glasses Nrs");
+    place(Lst_PersonsList, &Frm_Persons, 60, 450, 2280, 1140, {}, "Click on a line to return glasses to inventory.");
     Lst_PersonsList.setFont(kFixed);
-    place(Cmd_ListPersons, &Frm_Persons, 60, 1620, 1860, 420, "Refresh Person List");
+    place(Cmd_ListPersons, &Frm_Persons, 60, 1620, 2280, 420, "Refresh Person List");
     place(Lbl_InventoryNr, nullptr, 12420, 8370, 900, 225, "Go to bag #");
     place(Txt_InventoryNr, nullptr, 13350, 8310, 870, 330, {}, "Type a bag number to move the stock lists there.");
     place(Lbl_Used, nullptr, 12420, 8730, 900, 225, "Used");
@@ -343,7 +349,9 @@ void Frm_Vistrel::design()
     place(Cmd_Sizer, nullptr, 12420, 9810, 585, 360, "Home");
     Cmd_Sizer.setVisible(false);
     place(Cmd_CloseProgram, nullptr, 13020, 9810, 1200, 360, "E&xit");
-    place(Lbl_NetworkJournalDown, nullptr, 60, 10440, 3600, 255, "Network Journal is down!");
+    // A warning that must not be missed: large, bold and red.
+    place(Lbl_NetworkJournalDown, nullptr, 60, 10425, 3660, 330, "Network Journal is down!");
+    Lbl_NetworkJournalDown.setFont(kWarning);
     Lbl_NetworkJournalDown.setForeColor(colors::Red);
     Lbl_NetworkJournalDown.setVisible(false);
 

@@ -15,6 +15,8 @@ constexpr int kGridTop = 300;
 constexpr int kHeadingWidth = 600;
 constexpr int kColumnWidth = 490;
 constexpr int kRowHeight = 240;
+// The headings and 21 whole rows: no row is cut at the bottom.
+constexpr int kGridHeight = 22 * kRowHeight;
 }  // namespace
 
 void Frm_LensFrames::design()
@@ -44,7 +46,7 @@ void Frm_LensFrames::design()
     }
     MSF_LensInventory2.setVisible(false);
     MSF_LensInventory2.setContainer(&Frm_LensInventory[0]);
-    MSF_LensInventory2.setGeometry(kGridLeft, kGridTop, kHalfWidth - 180, 5400);
+    MSF_LensInventory2.setGeometry(kGridLeft, kGridTop, kHalfWidth - 180, kGridHeight);
 
     for (int i = 0; i <= 1; ++i) {
         Frame& half = Frm_LensInventory[i];
@@ -53,7 +55,7 @@ void Frm_LensFrames::design()
         half.setGeometry(120 + i * (kHalfWidth + 120), 360, kHalfWidth, 7080);
         Grid& grid = MSF_LensInventory(i);
         grid.setContainer(&half);
-        grid.setGeometry(kGridLeft, kGridTop, kHalfWidth - 180, 5400);
+        grid.setGeometry(kGridLeft, kGridTop, kHalfWidth - 180, kGridHeight);
         Txt_LensOverlay[i].setContainer(&half);
         Txt_LensOverlay[i].setVisible(false);
         Txt_LensOverlay[i].setToolTipText("Type the count of this lens; it is saved with Save Cells.");

@@ -13,7 +13,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableView>
 #include <QtTest>
 
 #include <algorithm>
@@ -240,6 +239,9 @@ private slots:
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(255, 0, 0));
         b.form.Txt_Name.setBackColor(colors::Green);
         QCOMPARE(b.widget<QLineEdit>(b.form.Txt_Name)->palette().color(QPalette::Base), QColor(0, 255, 0));
+        // In the colour of the screen around it, the screen shows through.
+        b.form.Lbl_Title.setBackColor(colors::ButtonFace);
+        QVERIFY(!label->autoFillBackground());
     }
 
     void fixedPitchFontsForTablesOfColumns()
@@ -334,43 +336,6 @@ private slots:
         combo.clear();
         QCOMPARE(box->count(), 0);
         QCOMPARE(box->currentText(), QStringLiteral("PDF"));
-    }
-
-    // ---- grids ----
-    void gridCellsShowTheirTextsAndColours()
-    {
-        BoundForm b(station());
-        auto* view = b.widget<QTableView>(b.form.Grd_Cells);
-        QVERIFY(view);
-        QCOMPARE(view->model()->rowCount(), 3);
-        QCOMPARE(view->model()->columnCount(), 4);
-        b.form.Grd_Cells.setTextMatrix(1, 2, "L 204");
-        b.form.Grd_Cells.setCellBackColor(1, 2, colors::Yellow);
-        const QModelIndex cell = view->model()->index(1, 2);
-        QCOMPARE(cell.data().toString(), QStringLiteral("L 204"));
-        QCOMPARE(cell.data(Qt::BackgroundRole).value<QBrush>().color(), QColor(Qt::yellow));
-        QVERIFY(!view->model()->index(1, 1).data(Qt::BackgroundRole).isValid());
-        // Headings: the first row and column.
-        QCOMPARE(view->model()->index(0, 3).data(Qt::BackgroundRole).value<QBrush>().color(),
-            view->palette().color(QPalette::Button));
-        QCOMPARE(view->model()->index(2, 0).data(Qt::BackgroundRole).value<QBrush>().color(),
-            view->palette().color(QPalette::Button));
-    }
-
-    void aClickedCellIsLeftAndEnteredInTheCore()
-    {
-        BoundForm b(station());
-        b.window.window()->show();
-        auto* view = b.widget<QTableView>(b.form.Grd_Cells);
-        std::vector<std::string> events;
-        Grid& grid = b.form.Grd_Cells;
-        auto at = [&] { return std::to_string(grid.row()) + "," + std::to_string(grid.col()); };
-        grid.onLeaveCell = [&] { events.push_back("leave " + at()); };
-        grid.onEnterCell = [&] { events.push_back("enter " + at()); };
-        grid.onClick = [&] { events.push_back("click " + at()); };
-        const QRect r = view->visualRect(view->model()->index(2, 1));
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, r.center());
-        QCOMPARE(events, std::vector<std::string>({"leave 0,0", "enter 2,1", "click 2,1"}));
     }
 
     // ---- timers ----

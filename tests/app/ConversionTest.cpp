@@ -251,6 +251,18 @@ private slots:
         QVERIFY(!parseScreenAction(Kind::Press, QStringLiteral("Cmd_Go")));
         QVERIFY(!parseScreenAction(Kind::Press, QStringLiteral("Frm_X.")));
         QVERIFY(!parseScreenAction(Kind::Press, QStringLiteral("Frm_X.Cmd(a)")));
+
+        const auto cell = parseScreenAction(Kind::Press, QStringLiteral("Frm_X.Grd_Cells(1)@20,5"));
+        QVERIFY(cell);
+        QCOMPARE(std::make_tuple(cell->control, cell->index, cell->row, cell->col),
+            std::make_tuple(QStringLiteral("Grd_Cells"), 1, 20, 5));
+        const auto row = parseScreenAction(Kind::Press, QStringLiteral("Frm_X.Lst_Rows@0"));
+        QVERIFY(row);
+        QCOMPARE(std::make_pair(row->row, row->col), std::make_pair(0, -1));
+        QVERIFY(!parseScreenAction(Kind::Press, QStringLiteral("Frm_X.Lst_Rows@")));
+        QVERIFY(!parseScreenAction(Kind::Press, QStringLiteral("Frm_X.Grd(0)@1,2,3")));
+        // A typed text may hold an @.
+        QCOMPARE(parseScreenAction(Kind::Type, QStringLiteral("Frm_X.Txt_Mail=a@b"))->text, QStringLiteral("a@b"));
     }
 
     void screenshotNamesPerWindow()

@@ -114,13 +114,41 @@ private slots:
         QVERIFY(!b.window.window()->isVisible());
     }
 
-    void escapeDoesNotCloseADialogBehindTheCoresBack()
+    void escapeIsTheCloseBoxOfADialog()
     {
         BoundForm b(station());
+        int asked = 0;
+        b.form.onCloseBox = [&] { ++asked; };  // the screen stays
         b.form.show();
         QTest::keyClick(b.window.window(), Qt::Key_Escape);
+        QCOMPARE(asked, 1);
         QVERIFY(b.window.window()->isVisible());
         QVERIFY(b.form.visible());
+        b.form.onCloseBox = nullptr;
+        QTest::keyClick(b.window.window(), Qt::Key_Escape);
+        QVERIFY(!b.form.visible());
+        QVERIFY(!b.window.window()->isVisible());
+    }
+
+    void enterPressesTheFocusedButtonOnlyAndNothingFromATextBox()
+    {
+        BoundForm b(station());
+        int goes = 0;
+        b.form.Cmd_Go.onClick = [&] { ++goes; };
+        b.form.show();
+        QWidget* name = b.window.widgetFor(b.form.Txt_Name);
+        name->setFocus();
+        QTest::keyClick(name, Qt::Key_Return);
+        QCOMPARE(goes, 0);
+        QWidget* go = b.window.widgetFor(b.form.Cmd_Go);
+        go->setFocus();
+        QTest::keyClick(go, Qt::Key_Return);
+        QTest::keyClick(go, Qt::Key_Enter, Qt::KeypadModifier);
+        QCOMPARE(goes, 2);
+        // Focus left on a button does not make it the default.
+        name->setFocus();
+        QTest::keyClick(name, Qt::Key_Return);
+        QCOMPARE(goes, 2);
         b.form.hide();
     }
 
