@@ -20,9 +20,16 @@ public:
 
     bool Showing = false;
 
+    // Reads the readings file anew each time the browser comes up.
+    void Form_Activate();
+    void Chk_SortPerson_Click();
+    void Lst_AutorefractorReadings_Click() { loadRow(Lst_AutorefractorReadings); }
+    void Lst_AutorefractorReadingsSorted_Click() { loadRow(Lst_AutorefractorReadingsSorted); }
     void Cmd_Exit_Click();
 
 private:
+    // Brings the clicked reading back into both screens and searches.
+    void loadRow(const ListBox& list);
     void design();
 };
 

@@ -1,5 +1,7 @@
 #include "Frm_Autorefractor.h"
 
+#include "core/Frm_Vistrel.h"
+#include "core/Numbers.h"
 #include "platform/Platform.h"
 #include "platform/SerialPort.h"
 
@@ -8,8 +10,7 @@ namespace vistrel {
 Frm_Autorefractor::Frm_Autorefractor(Station& station) : Screen(station, "Frm_Autorefractor")
 {
     design();
-    Cmd_HideAutorefractorDataCaptureForm.onClick = [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); };
-    onCloseBox = [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); };
+    wireHandlers();
 
     var("buffer", buffer);
     var("LastBufferSize", LastBufferSize);
@@ -24,7 +25,46 @@ Frm_Autorefractor::Frm_Autorefractor(Station& station) : Screen(station, "Frm_Au
     var("EntryError", EntryError);
     var("Input_resp", Input_resp);
     var("CanonStep", CanonStep);
-    op("Cmd_HideAutorefractorDataCaptureForm_Click", [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); });
+}
+
+void Frm_Autorefractor::wireHandlers()
+{
+    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
+        c.onClick = fn;
+        op(handler, std::move(fn));
+    };
+    auto change = [this](TextBox& t, const std::string& handler, std::function<void()> fn) {
+        t.onChange = fn;
+        op(handler, std::move(fn));
+    };
+    click(Cmd_AutoClearAll, "Cmd_AutoClearAll_Click", [this] { Cmd_AutoClearAll_Click(); });
+    click(Cmd_AutoClearLeft, "Cmd_AutoClearLeft_Click", [this] { Cmd_AutoClearLeft_Click(); });
+    click(Cmd_AutoClearRight, "Cmd_AutoClearRight_Click", [this] { Cmd_AutoClearRight_Click(); });
+    click(Cmd_AutoSearch, "Cmd_AutoSearch_Click", [this] { Cmd_AutoSearch_Click(); });
+    click(Cmd_HideAutorefractorDataCaptureForm, "Cmd_HideAutorefractorDataCaptureForm_Click",
+        [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); });
+    click(Cmd_LeftConfidenceUP, "Cmd_LeftConfidenceUP_Click", [this] { Cmd_LeftConfidenceUP_Click(); });
+    click(Cmd_LeftConfidenceDOWN, "Cmd_LeftConfidenceDOWN_Click", [this] { Cmd_LeftConfidenceDOWN_Click(); });
+    click(Cmd_RightConfidenceUP, "Cmd_RightConfidenceUP_Click", [this] { Cmd_RightConfidenceUP_Click(); });
+    click(Cmd_RightConfidenceDOWN, "Cmd_RightConfidenceDOWN_Click", [this] { Cmd_RightConfidenceDOWN_Click(); });
+    change(Txt_AutoReading, "Txt_AutoReading_Change", [this] { Txt_AutoReading_Change(); });
+    change(Txt_LeftConfidenceValue, "Txt_LeftConfidenceValue_Change", [this] { Txt_LeftConfidenceValue_Change(); });
+    change(Txt_RightConfidenceValue, "Txt_RightConfidenceValue_Change",
+        [this] { Txt_RightConfidenceValue_Change(); });
+    for (int i = 0; i <= 1; ++i)
+        Txt_AutoSphere[i].onDblClick = [this, i] { Txt_AutoSphere_DblClick(i); };
+    op("Clear_Eye(0)", [this] { Clear_Eye(0); });
+    op("Clear_Eye(1)", [this] { Clear_Eye(1); });
+
+    Tmr_CountDataFlow.onTimer = [this] { Tmr_CountDataFlow_Timer(); };
+    op("Tmr_CountDataFlow_Timer", Tmr_CountDataFlow.onTimer);
+    op("AutoProcessBuffer", [this] { AutoProcessBuffer(); });
+    op("MSComm1_OnComm", [this] { MSComm1_OnComm(); });
+    op("Form_Load", [this] { Form_Load(); });
+    op("Form_GotFocus", [this] { Form_GotFocus(); });
+    onLoad = [this] { Form_Load(); };
+    onCloseBox = [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); };
+    MSComm1().onComm = [this] { MSComm1_OnComm(); };
 }
 
 SerialPort& Frm_Autorefractor::MSComm1() const
@@ -43,6 +83,8 @@ void Frm_Autorefractor::PreparePort()
     NewLine = Cr + Lf;
     Showing = false;
     ShowTimer = -1;
+    // The port opens before its last settings are made; a port that is
+    // missing or in use is no error: the station runs on by hand.
     SerialPort& port = MSComm1();
     port.setInBufferSize(1024);
     port.setPortOpen(true);
@@ -54,8 +96,27 @@ void Frm_Autorefractor::PreparePort()
     port.setRTSEnable(true);
 }
 
+// ---- Buttons ----
+
+void Frm_Autorefractor::Cmd_AutoClearAll_Click()
+{
+    Txt_AutoReading.setText("1");
+    Clear_Eye(0);
+    Clear_Eye(1);
+}
+
+void Frm_Autorefractor::Cmd_AutoSearch_Click()
+{
+    if (vistrel().SkipSearch)
+        return;
+    hide();
+    Showing = false;
+    vistrel().Search_Click();
+}
+
 void Frm_Autorefractor::Cmd_HideAutorefractorDataCaptureForm_Click()
 {
+    // The old check result isn't kept.
     setTop(7620);
     Lbl_ErrorStatus.setVisible(true);
     Lbl_ErrorStatus.setForeColor(0);
@@ -64,81 +125,85 @@ void Frm_Autorefractor::Cmd_HideAutorefractorDataCaptureForm_Click()
     Showing = false;
 }
 
-void Frm_Autorefractor::design()
+// ---- Corrections before the search ----
+
+void Frm_Autorefractor::Clear_Eye(int index)
 {
-    setCaption("Autorefractor Data Captured.                                        Version 5.3-2");
-    setGeometry(0, 8475, 9600, 4200);
-    for (int i = 0; i <= 1; ++i) {
-        const int x = i == 0 ? 240 : 4800;
-        Frame& eye = i == 0 ? Frm_LettEyeAuto0 : Frm_LettEyeAuto1;
-        eye.setCaption(i == 0 ? "Left" : "Right");
-        eye.setGeometry(x, 120, 4320, 1200);
-        const char* tip = "It is easier to make changes of this field on the main form.";
-        Txt_AutoSphere[i].setContainer(&eye);
-        Txt_AutoSphere[i].setGeometry(240, 480, 1215, 375);
-        Txt_AutoSphere[i].setToolTipText(tip);
-        Txt_AutoCylinder[i].setContainer(&eye);
-        Txt_AutoCylinder[i].setGeometry(1560, 480, 1215, 375);
-        Txt_AutoCylinder[i].setToolTipText(tip);
-        Txt_AutoAxis[i].setContainer(&eye);
-        Txt_AutoAxis[i].setGeometry(2880, 480, 975, 375);
-        Txt_AutoAxis[i].setToolTipText(tip);
-    }
-    Frm_AutoPerson.setCaption("Reading Number");
-    Frm_AutoPerson.setGeometry(240, 1440, 1800, 780);
-    Txt_AutoReading.setContainer(&Frm_AutoPerson);
-    Txt_AutoReading.setGeometry(120, 300, 1500, 375);
-    Txt_AutoReading.setToolTipText("Locked Field");
-    Lbl_LeftConfidenceValue.setCaption("Left Confidence");
-    Lbl_LeftConfidenceValue.setGeometry(2160, 1440, 1500, 255);
-    Txt_LeftConfidenceValue.setGeometry(2160, 1740, 600, 375);
-    Cmd_LeftConfidenceUP.setCaption("+");
-    Cmd_LeftConfidenceUP.setGeometry(2820, 1740, 375, 375);
-    Cmd_LeftConfidenceDOWN.setCaption("-");
-    Cmd_LeftConfidenceDOWN.setGeometry(3240, 1740, 375, 375);
-    Lbl_RightConfidenceValue.setCaption("Right Confidence");
-    Lbl_RightConfidenceValue.setGeometry(4800, 1440, 1500, 255);
-    Txt_RightConfidenceValue.setGeometry(4800, 1740, 600, 375);
-    Cmd_RightConfidenceUP.setCaption("+");
-    Cmd_RightConfidenceUP.setGeometry(5460, 1740, 375, 375);
-    Cmd_RightConfidenceDOWN.setCaption("-");
-    Cmd_RightConfidenceDOWN.setGeometry(5880, 1740, 375, 375);
-    Cmd_AutoClearAll.setCaption("CLEAR ALL");
-    Cmd_AutoClearAll.setToolTipText("Click to clear both left and right values from this and the main form.");
-    Cmd_AutoClearAll.setGeometry(240, 2400, 1500, 420);
-    Cmd_AutoClearLeft.setCaption("CLEAR LEFT");
-    Cmd_AutoClearLeft.setToolTipText("Click to clear the Left Lens Data");
-    Cmd_AutoClearLeft.setGeometry(1860, 2400, 1500, 420);
-    Cmd_AutoClearRight.setCaption("CLEAR RIGHT");
-    Cmd_AutoClearRight.setToolTipText("Click to clear the Right Lens Data");
-    Cmd_AutoClearRight.setGeometry(3480, 2400, 1500, 420);
-    Cmd_AutoSearch.setCaption("Search");
-    Cmd_AutoSearch.setToolTipText("Click to search for glasses using main form.");
-    Cmd_AutoSearch.setGeometry(5100, 2400, 1500, 420);
-    Cmd_HideAutorefractorDataCaptureForm.setCaption("HIDE");
-    Cmd_HideAutorefractorDataCaptureForm.setGeometry(6720, 2400, 1500, 420);
-    frm_AutoSearchOptions.setCaption("Search Options");
-    frm_AutoSearchOptions.setGeometry(6480, 1320, 2880, 900);
-    Chk_AutoEnableAutoSearch.setContainer(&frm_AutoSearchOptions);
-    Chk_AutoEnableAutoSearch.setCaption("Enable Automatic Search");
-    Chk_AutoEnableAutoSearch.setToolTipText(
-        "Click to cause the search to automatically occur 3 seconds after autorefractor acquisition.");
-    Chk_AutoEnableAutoSearch.setGeometry(120, 360, 2640, 300);
-    Lbl_AutoIncoming.setCaption("   Incoming Data....");
-    Lbl_AutoIncoming.setGeometry(240, 3000, 2400, 300);
-    Lbl_AutoIncoming.setVisible(false);
-    Lbl_ErrorStatus.setGeometry(2760, 3000, 3600, 375);
-    Lbl_ErrorStatus.setCaption("                     OK");
-    Lbl_ErrorStatus.setBackColor(16776960);
-    Lbl_ErrorStatus.setForeColor(0);
-    Frm_Notice.setCaption(" NOTICE");
-    Frm_Notice.setGeometry(6480, 2880, 2880, 900);
-    Lbl_VerifyLeftRightConfidenceValues.setContainer(&Frm_Notice);
-    Lbl_VerifyLeftRightConfidenceValues.setCaption(
-        "Verify the above left && right \"Confidence Values\" BEFORE search.");
-    Lbl_VerifyLeftRightConfidenceValues.setGeometry(120, 240, 2640, 600);
-    Lbl_Describe.setCaption("Form appears when transmitting from autorefractor to P.C.");
-    Lbl_Describe.setGeometry(240, 3480, 6000, 300);
+    if (index != 0 && index != 1)
+        return;
+    // The sphere isn't emptied: it shows a zero to be typed over.
+    Txt_AutoSphere[index].setText("00.00");
+    Txt_AutoCylinder[index].setText("");
+    Txt_AutoAxis[index].setText("");
+    Frm_Vistrel& v = vistrel();
+    v.Txt_Sphere_Left.setText(Txt_AutoSphere[0].text());
+    v.Txt_Cylinder_Left.setText(Txt_AutoCylinder[0].text());
+    v.Txt_Axis_Left.setText(Txt_AutoAxis[0].text());
+    v.Txt_Sphere_Right.setText(Txt_AutoSphere[1].text());
+    v.Txt_Cylinder_Right.setText(Txt_AutoCylinder[1].text());
+    v.Txt_Axis_Right.setText(Txt_AutoAxis[1].text());
+    v.Txt_ReadingNr.setText(Txt_AutoReading.text());
+}
+
+void Frm_Autorefractor::Txt_AutoSphere_DblClick(int index)
+{
+    if (index == 0 || index == 1)
+        Txt_AutoSphere[index].setText("");
+}
+
+void Frm_Autorefractor::Txt_AutoReading_Change()
+{
+    vistrel().Txt_ReadingNr.setText(Txt_AutoReading.text());
+}
+
+namespace {
+
+// A confidence value is a whole number from 1 to 10; the main screen
+// keeps the same value.
+void keepConfidence(TextBox& box, TextBox& mainBox)
+{
+    if (Val(box.text()) > 10)
+        box.setText("10");
+    if (Val(box.text()) < 1)
+        box.setText("1");
+    mainBox.setText(box.text());
+}
+
+void stepConfidence(TextBox& box, double step)
+{
+    box.setText(Str(Val(box.text()) + step));
+}
+
+}  // namespace
+
+void Frm_Autorefractor::Txt_LeftConfidenceValue_Change()
+{
+    keepConfidence(Txt_LeftConfidenceValue, vistrel().Txt_LeftConfidenceValue);
+}
+
+void Frm_Autorefractor::Txt_RightConfidenceValue_Change()
+{
+    keepConfidence(Txt_RightConfidenceValue, vistrel().Txt_RightConfidenceValue);
+}
+
+void Frm_Autorefractor::Cmd_LeftConfidenceUP_Click()
+{
+    stepConfidence(Txt_LeftConfidenceValue, 1);
+}
+
+void Frm_Autorefractor::Cmd_LeftConfidenceDOWN_Click()
+{
+    stepConfidence(Txt_LeftConfidenceValue, -1);
+}
+
+void Frm_Autorefractor::Cmd_RightConfidenceUP_Click()
+{
+    stepConfidence(Txt_RightConfidenceValue, 1);
+}
+
+void Frm_Autorefractor::Cmd_RightConfidenceDOWN_Click()
+{
+    stepConfidence(Txt_RightConfidenceValue, -1);
 }
 
 }  // namespace vistrel

@@ -45,7 +45,9 @@ public:
 
     std::string buffer;
     Variant LastBufferSize = Variant(0);
-    std::int16_t LastLookSize = 0;
+    // Wider than the 16 bits it once had: a line that floods the buffer
+    // past 32767 characters must still come to rest and be processed.
+    std::int32_t LastLookSize = 0;
     Variant ClockTimer = Variant(0);
     Variant SecondTimer;
     std::int32_t ShowTimer = -1;
@@ -61,9 +63,39 @@ public:
 
     // Prepares the line at start-up; every failure is ignored.
     void PreparePort();
+
+    // ---- Capture ----
+    void MSComm1_OnComm();
+    void Tmr_CountDataFlow_Timer();
+    void AutoProcessBuffer();
+    void Form_Load();
+    void Form_GotFocus() { Showing = true; }
+
+    // ---- Buttons ----
+    void Cmd_AutoClearAll_Click();
+    void Cmd_AutoClearLeft_Click() { Clear_Eye(0); }
+    void Cmd_AutoClearRight_Click() { Clear_Eye(1); }
+    void Cmd_AutoSearch_Click();
     void Cmd_HideAutorefractorDataCaptureForm_Click();
 
+    // ---- Corrections before the search ----
+    void Clear_Eye(int index);
+    void Txt_AutoSphere_DblClick(int index);
+    void Txt_AutoReading_Change();
+    void Txt_LeftConfidenceValue_Change();
+    void Txt_RightConfidenceValue_Change();
+    void Cmd_LeftConfidenceUP_Click();
+    void Cmd_LeftConfidenceDOWN_Click();
+    void Cmd_RightConfidenceUP_Click();
+    void Cmd_RightConfidenceDOWN_Click();
+
 private:
+    void clearBuffer();
+    // The result of the check on the label: good, an entry error, or the
+    // RK600's partial data.
+    void showCheck(bool good, bool partial);
+    void transferToMainScreen();
+    void wireHandlers();
     void design();
 };
 

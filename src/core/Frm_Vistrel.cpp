@@ -182,6 +182,15 @@ void Frm_Vistrel::wireHandlers()
     click(Cmd_ReadingGlasses, "Cmd_ReadingGlasses_Click", [this] { Cmd_ReadingGlasses_Click(); });
     click(Cmd_DisplayLensFrames, "Cmd_DisplayLensFrames_Click", [this] { Cmd_DisplayLensFrames_Click(); });
     click(Cmd_PrescriptionSave, "Cmd_PrescriptionSave_Click", [this] { Cmd_PrescriptionSave_Click(); });
+    click(AutoRefractorDataCapture, "AutoRefractorDataCapture_Click", [this] { AutoRefractorDataCapture_Click(); });
+    click(LoadPreviousAutorefractorMeasurements, "LoadPreviousAutorefractorMeasurements_Click",
+        [this] { LoadPreviousAutorefractorMeasurements_Click(); });
+    click(EnableDisablePracticePlay, "EnableDisablePracticePlay_Click", [this] { EnableDisablePracticePlay_Click(); });
+    click(Img_Backwards, "Img_Backwards_Click", [this] { Img_Backwards_Click(); });
+    click(Img_Forward, "Img_Forward_Click", [this] { Img_Forward_Click(); });
+    change(Txt_Play_Person_Nr, "Txt_Play_Person_Nr_Change", [this] { Txt_Play_Person_Nr_Change(); });
+    op("LoadPractice", [this] { LoadPractice(); });
+    op("ShowPracticeControls", [this] { ShowPracticeControls(); });
 
     // Presets and cut-back.
     click(Cmd_Default, "Cmd_Default_Click", [this] { Cmd_Default_Click(); });

@@ -365,6 +365,10 @@ public:
     std::vector<double> Found_Score;
     std::vector<bool> Found_Bifocal, Found_Progressive;
 
+    // ---- Practice readings, by person number minus 1; filled on first use ----
+    std::vector<std::string> Practice_Age, Practice_RightSphere, Practice_RightCylinder, Practice_RightAxis;
+    std::vector<std::string> Practice_LeftSphere, Practice_LeftCylinder, Practice_LeftAxis;
+
     // ---- Unmatched measurements ----
     std::vector<double> Meas_LeftSphere, Meas_LeftCylinder, Meas_LeftAxis, Meas_LeftAdd, Meas_LeftSphereEqu;
     std::vector<double> Meas_RightSphere, Meas_RightCylinder, Meas_RightAxis, Meas_RightAdd, Meas_RightSphereEqu;
@@ -437,6 +441,16 @@ public:
     // The journal files as the system names them here.
     std::string LocalJournalFile();
     std::string NetworkJournalFile(bool forWriting);
+
+    // ---- Autorefractor readings and practice play ----
+    void AutoRefractorDataCapture_Click();
+    void LoadPreviousAutorefractorMeasurements_Click();
+    void EnableDisablePracticePlay_Click();
+    void ShowPracticeControls();
+    void Img_Backwards_Click();
+    void Img_Forward_Click();
+    void Txt_Play_Person_Nr_Change();
+    void LoadPractice();
 
     // ---- Unmatched measurements ----
     void Cmd_PrescriptionSave_Click();

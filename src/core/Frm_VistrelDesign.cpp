@@ -43,11 +43,10 @@ void Frm_Vistrel::design()
     AutoRefractorDataCapture.setCaption("&Training: Show autorefractor Data Capture Window");
     ExitProgram.setCaption("&Exit");
     // Entries whose work comes with a later part of the station stay disabled.
-    for (Menu* m : {&SaveDeletedRejectedInventory, &SaveUNMatchedMeasurementsFile,
-             &LoadPreviousAutorefractorMeasurements, &DeletedReport, &RejectedReport, &VacantLocationsReport,
-             &DisplayNoMatchMeasurements, &HelpProgram, &HelpReportsDropdown, &HelpFileDropdown,
-             &HelpPrescriptionModificationWizard, &EnableDisablePracticePlay, &TellAbout, &UpdateProgram,
-             &AutoRefractorDataCapture})
+    for (Menu* m : {&SaveDeletedRejectedInventory, &SaveUNMatchedMeasurementsFile, &DeletedReport,
+             &RejectedReport, &VacantLocationsReport, &DisplayNoMatchMeasurements, &HelpProgram,
+             &HelpReportsDropdown, &HelpFileDropdown, &HelpPrescriptionModificationWizard, &TellAbout,
+             &UpdateProgram})
         m->setEnabled(false);
 
     // ---- Person ----

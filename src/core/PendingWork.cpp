@@ -5,7 +5,6 @@
 
 namespace vistrel {
 
-void Frm_Vistrel::WriteAutorefractorPrescription() {}
 void Frm_Vistrel::Make_Recommendation() {}
 
 }  // namespace vistrel

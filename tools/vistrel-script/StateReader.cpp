@@ -34,6 +34,8 @@ std::optional<std::string> plainProperty(const Control& c, const std::string& p)
         return yesNo(c.enabled());
     if (p == "Locked")
         return yesNo(c.locked());
+    if (p == "BorderStyle")
+        return number(c.borderStyle());
     if (p == "BackColor")
         return number(c.backColor());
     if (p == "ForeColor")

@@ -106,6 +106,14 @@ void Control::setGeometry(int left, int top, int width, int height)
     notify(Prop::Geometry);
 }
 
+void Control::setBorderStyle(int style)
+{
+    if (borderStyle_ == style)
+        return;
+    borderStyle_ = style;
+    notify(Prop::BorderStyle);
+}
+
 void Control::setTabIndex(int index)
 {
     if (tabIndex_ == index)

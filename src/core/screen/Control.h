@@ -48,6 +48,7 @@ enum class Prop {
     Focus,
     Scroll,
     CurrentCell,
+    BorderStyle,
 };
 
 struct Font {
@@ -99,6 +100,9 @@ public:
     void setForeColor(Color color);
     const std::string& toolTipText() const { return toolTip_; }
     void setToolTipText(const std::string& tip);
+    // 0 none, 1 a single line around the control.
+    int borderStyle() const { return borderStyle_; }
+    void setBorderStyle(int style);
 
     // Geometry in twips relative to the container, as the screens were drawn.
     int left() const { return left_; }
@@ -152,6 +156,7 @@ private:
     Color backColor_ = colors::ButtonFace;
     Color foreColor_ = colors::ButtonText;
     std::string toolTip_;
+    int borderStyle_ = 0;
     int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
     int tabIndex_ = 0;
     bool tabStop_ = true;

@@ -76,10 +76,11 @@ print Frm_Vistrel.Txt_PersonNumber
 set Frm_Vistrel.Txt_PersonNumber -5
 print Frm_Vistrel.Txt_PersonNumber
 
-# Confidence: typed values stand, the buttons hold 1 to 10, and the
-# capture screen's field follows.
+# Confidence: a typed value goes to the capture screen, whose field holds
+# 1 to 10 and hands its value back; the buttons hold 1 to 10 as well.
 set Frm_Vistrel.Txt_LeftConfidenceValue 25
 print Frm_Autorefractor.Txt_LeftConfidenceValue
+print Frm_Vistrel.Txt_LeftConfidenceValue
 click Frm_Vistrel.Cmd_LeftConfidenceUP
 print Frm_Vistrel.Txt_LeftConfidenceValue
 print Frm_Autorefractor.Txt_LeftConfidenceValue
