@@ -45,6 +45,8 @@ void ControlBinding::apply(Prop prop)
     switch (prop) {
     case Prop::Visible:
         w->setVisible(control_->visible());
+        if (onLayoutChanged)
+            onLayoutChanged();
         break;
     case Prop::Enabled:
         w->setEnabled(control_->enabled());
@@ -54,6 +56,8 @@ void ControlBinding::apply(Prop prop)
         break;
     case Prop::Geometry:
         w->setGeometry(metrics_.rect(*control_));
+        if (onLayoutChanged)
+            onLayoutChanged();
         break;
     case Prop::Font:
         w->setFont(metrics_.font(control_->font(), fixedPitch()));

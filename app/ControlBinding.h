@@ -35,6 +35,8 @@ public:
 
     // Told when the control's tab index changes, so the form re-chains.
     std::function<void()> onTabIndexChanged;
+    // Told when the control is shown, hidden or moved, so the form refits.
+    std::function<void()> onLayoutChanged;
 
 protected:
     // Kind-specific properties; the base handles the common ones.

@@ -5,10 +5,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QAbstractSpinBox>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+#include <QTextEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -108,8 +114,10 @@ FormWindow::FormWindow(Form& form, Kind kind, const Metrics& metrics, QWidget* p
     window_->setObjectName(QString::fromStdString(form.name()) + QLatin1String("Window"));
 
     binder_.bind(form, canvas_);
-    for (const auto& b : binder_.bindings())
+    for (const auto& b : binder_.bindings()) {
         b->onTabIndexChanged = [this] { scheduleTabOrder(); };
+        b->onLayoutChanged = [this] { scheduleRefit(); };
+    }
     updateTabOrder();
 
     form.setObserver(this);
@@ -137,7 +145,26 @@ void FormWindow::applyCaption()
     window_->setWindowTitle(fromCore(form_.caption()));
 }
 
-void FormWindow::applyGeometry()
+void FormWindow::refit()
+{
+    if (window_)
+        applyGeometry(false);
+}
+
+void FormWindow::scheduleRefit()
+{
+    // Controls that come into view past the designed edge (practice play
+    // at the foot of the main screen) get room; many at once fit once.
+    if (refitPending_)
+        return;
+    refitPending_ = true;
+    QTimer::singleShot(0, this, [this] {
+        refitPending_ = false;
+        refit();
+    });
+}
+
+void FormWindow::applyGeometry(bool place)
 {
     const bool menuBar = kind_ == Kind::MainWindow && MenuBuilder::hasMenus(form_.controls());
     QSize client = metrics_.clientSize(form_.width(), form_.height(), menuBar);
@@ -156,17 +183,47 @@ void FormWindow::applyGeometry()
     if (canvas_->size() != client)
         canvas_->resize(client);
     QSize outer = client;
-    if (auto* main = qobject_cast<QMainWindow*>(window_.data()))
+    if (auto* main = qobject_cast<QMainWindow*>(window_.data())) {
         outer.rheight() += main->menuBar()->sizeHint().height();
-    if (window_->size() != outer)
+        // The status line is made only by whoever has something to say.
+        if (auto* status = main->findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly); status && !status->isHidden())
+            outer.rheight() += status->sizeHint().height();
+    }
+    // A window the person has made as large as the screen stays so.
+    const bool personSized = window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+    if (window_->size() != outer && !personSized)
         window_->resize(outer);
-    if (form_.left() != 0 || form_.top() != 0)
-        window_->move(metrics_.px(form_.left()), metrics_.px(form_.top()));
+    if (place && (form_.left() != 0 || form_.top() != 0))
+        window_->move(onScreen(QPoint(metrics_.px(form_.left()), metrics_.px(form_.top()))));
+}
+
+QPoint FormWindow::onScreen(QPoint place) const
+{
+    // The screens were placed for a desktop of their time: the capture
+    // screen sits low, below a small laptop's edge and far below it when
+    // the screens are drawn larger. It comes as low as fits.
+    QWidget* anchor = window_->parentWidget() ? window_->parentWidget()->window() : window_.data();
+    const QScreen* screen = anchor->screen();
+    if (!screen)
+        return place;
+    const QRect room = screen->availableGeometry();
+    QMargins frame(8, 31, 8, 8);  // until the desktop has framed the window
+    if (window_->isVisible()) {
+        const QRect outer = window_->frameGeometry(), inner = window_->geometry();
+        frame = QMargins(inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom());
+    }
+    const int width = window_->width() + frame.left() + frame.right();
+    const int height = window_->height() + frame.top() + frame.bottom();
+    place.setX(std::max(room.left(), std::min(place.x(), room.right() + 1 - width)));
+    place.setY(std::max(room.top(), std::min(place.y(), room.bottom() + 1 - height)));
+    return place;
 }
 
 void FormWindow::applyVisibility()
 {
     if (form_.visible()) {
+        const bool quiet = !form_.modal() && typingElsewhere();
         const Qt::WindowModality modality = form_.modal() ? Qt::ApplicationModal : Qt::NonModal;
         if (window_->isVisible() && window_->windowModality() != modality)
             window_->hide();  // modality changes only while hidden
@@ -180,22 +237,56 @@ void FormWindow::applyVisibility()
                 focus = window_->parentWidget()->window()->focusWidget();
             returnFocus_ = focus && focus->window() != window_ ? focus : nullptr;
             window_->setWindowModality(modality);
+            // A screen that rises by itself (the capture screen when a
+            // device sends) comes to the front, but a volunteer typing in
+            // another window keeps the keyboard.
+            window_->setAttribute(Qt::WA_ShowWithoutActivating, quiet);
             window_->show();
         }
         window_->raise();
-        window_->activateWindow();
+        if (!quiet)
+            window_->activateWindow();
+        // In a window that isn't active this only marks where the caret
+        // goes once the person comes to it.
         if (!shownByCore_)
             focusFirst();
+        if (quiet) {
+            // Where the desktop activates a new window regardless, the
+            // keyboard goes back at once to the box being typed in.
+            QWidget* typing = QApplication::focusWidget();
+            if (typing && typing->window() == window_)
+                typing = returnFocus_;
+            if (typing && typing->window() != window_) {
+                typing->window()->activateWindow();
+                typing->setFocus(Qt::OtherFocusReason);
+            }
+        }
         shownByCore_ = true;
         activateTimers();
     } else {
         shownByCore_ = false;
         if (window_->isVisible()) {
+            // The caret goes back only from this window: a person who
+            // works in another one meanwhile keeps it there.
+            QWidget* focus = QApplication::focusWidget();
+            const bool hadCaret = !focus || focus->window() == window_;
             window_->hide();
-            restoreFocus();
+            if (hadCaret)
+                restoreFocus();
+            else
+                returnFocus_ = nullptr;
         }
         emit hidden();
     }
+}
+
+bool FormWindow::typingElsewhere() const
+{
+    QWidget* focus = QApplication::focusWidget();
+    if (!focus || focus->window() == window_)
+        return false;
+    return qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus) ||
+        qobject_cast<QTextEdit*>(focus) || qobject_cast<QAbstractSpinBox*>(focus);
 }
 
 void FormWindow::restoreFocus()

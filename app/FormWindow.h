@@ -44,6 +44,9 @@ public:
     // control by TabIndex as the activation left the controls.
     void settleFocus();
 
+    // Fits the window to the controls now shown (and the status line).
+    void refit();
+
     // Starts the screen's timers (once it has been shown, or once the
     // station's main screen has).
     void activateTimers();
@@ -56,9 +59,13 @@ signals:
 
 private:
     void applyCaption();
-    void applyGeometry();
+    void applyGeometry(bool place = true);
     void applyVisibility();
+    // A place for the window near the designed one, inside the screen.
+    QPoint onScreen(QPoint place) const;
     void scheduleTabOrder();
+    void scheduleRefit();
+    bool typingElsewhere() const;
     void focusFirst();
     void restoreFocus();
 
@@ -71,6 +78,7 @@ private:
     ControlBinder binder_;
     MenuBuilder menus_;
     bool tabOrderPending_ = false;
+    bool refitPending_ = false;
     bool timersActive_ = false;
     bool shownByCore_ = false;
     QPointer<QWidget> returnFocus_;

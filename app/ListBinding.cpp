@@ -7,8 +7,23 @@
 
 namespace vistrel::qt {
 
+void ListBoxView::focusInEvent(QFocusEvent* event)
+{
+    const bool noRow = !currentIndex().isValid();
+    {
+        const QSignalBlocker quiet(selectionModel());
+        QListView::focusInEvent(event);
+    }
+    // The first arrow key then goes to the first row.
+    if (noRow && currentIndex().isValid()) {
+        const QSignalBlocker quiet(selectionModel());
+        selectionModel()->clearCurrentIndex();
+        viewport()->update();
+    }
+}
+
 ListBinding::ListBinding(ListBox& list, QWidget* parent, const Metrics& metrics)
-    : ControlBinding(list, new QListView(parent), metrics),
+    : ControlBinding(list, new ListBoxView(parent), metrics),
       list_(list),
       view_(static_cast<QListView*>(widget())),
       model_(new ListModel(list, this))

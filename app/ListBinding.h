@@ -7,6 +7,18 @@
 
 namespace vistrel::qt {
 
+// The list view of a list box. Taking the keyboard chooses no row: a
+// list view would put its cursor on the first row, which a list box
+// reports as that row clicked (the readings browser would load a reading
+// and search merely by opening).
+class ListBoxView : public QListView {
+public:
+    using QListView::QListView;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+};
+
 // A list box shown by a list view over a ListModel. Choosing a row, by
 // mouse or keys, sets the core's ListIndex and raises its Click; scrolling
 // sets TopIndex. The core's ListIndex and TopIndex are mirrored back.

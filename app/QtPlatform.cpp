@@ -1,8 +1,10 @@
 #include "QtPlatform.h"
 
+#include "SerialStatus.h"
 #include "StationWindows.h"
 #include "TextConversion.h"
 
+#include "core/Frm_Vistrel.h"
 #include "platform/PathMapping.h"
 
 #include <QApplication>
@@ -93,6 +95,16 @@ QtPlatform::QtPlatform(QStringList arguments) : arguments_(std::move(arguments))
 }
 
 QtPlatform::~QtPlatform() = default;
+
+void QtPlatform::setWindows(StationWindows* windows)
+{
+    serialStatus_.reset();
+    windows_ = windows;
+    if (!windows_)
+        return;
+    if (auto* station = dynamic_cast<Frm_Vistrel*>(&windows_->main().form()))
+        serialStatus_ = std::make_unique<SerialStatus>(serial_, *station, windows_->main());
+}
 
 QWidget* QtPlatform::activeWindow() const
 {

@@ -9,12 +9,14 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 class QMessageBox;
 class QWidget;
 
 namespace vistrel::qt {
 
+class SerialStatus;
 class StationWindows;
 
 // Something that watches the dialogs the station opens: the screenshot
@@ -34,7 +36,10 @@ public:
     explicit QtPlatform(QStringList arguments = {});
     ~QtPlatform() override;
 
-    void setWindows(StationWindows* windows) { windows_ = windows; }
+    // The station's windows; the main one gets the serial port's status line.
+    void setWindows(StationWindows* windows);
+    SerialStatus* serialStatus() const { return serialStatus_.get(); }
+    QtSerialPort& qtSerialPort() { return serial_; }
     void setDialogWatcher(DialogWatcher* watcher) { watcher_ = watcher; }
     // The shortest time between two real passes of doEvents.
     void setEventPumpInterval(int ms) { pumpIntervalMs_ = ms; }
@@ -70,6 +75,7 @@ private:
     StationWindows* windows_ = nullptr;
     DialogWatcher* watcher_ = nullptr;
     QtSerialPort serial_;
+    std::unique_ptr<SerialStatus> serialStatus_;
     QtPrinter printer_;
     QElapsedTimer pumpClock_;
     int pumpIntervalMs_ = 30;

@@ -1,8 +1,15 @@
 #include "QtSerialPort.h"
 
+#include <QFile>
 #include <QSerialPortInfo>
 
 #include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <poll.h>
+#include <unistd.h>
+#endif
 
 namespace vistrel::qt {
 
@@ -46,25 +53,56 @@ SerialSettings parseSerialSettings(const std::string& text)
     return s;
 }
 
-QString serialDeviceName(int port, const QString& override, const QStringList& availablePorts)
+LineState openFailure(QSerialPort::SerialPortError error, bool accessDenied, PortSystem system)
 {
-    if (!override.isEmpty())
-        return override;
-#ifdef Q_OS_WIN
-    Q_UNUSED(availablePorts);
-    return QStringLiteral("COM%1").arg(port);
+    switch (error) {
+    case QSerialPort::DeviceNotFoundError:
+        return LineState::NoSuchPort;
+    case QSerialPort::PermissionError:
+        // Windows refuses a port another program has open; elsewhere the
+        // device's rights tell a user outside the dialout group from a
+        // port locked or held exclusively by another program.
+        if (system == PortSystem::Windows)
+            return LineState::Busy;
+        return accessDenied ? LineState::PermissionDenied : LineState::Busy;
+    default:
+        return LineState::Failed;
+    }
+}
+
+namespace {
+
+bool accessDenied(const QString& location)
+{
+#ifdef Q_OS_UNIX
+    const QByteArray path = QFile::encodeName(location);
+    return ::access(path.constData(), R_OK | W_OK) != 0 && errno == EACCES;
 #else
-    QStringList sorted = availablePorts;
-    sorted.sort();
-    if (port >= 1 && port <= sorted.size())
-        return sorted[port - 1];
-    return QStringLiteral("/dev/ttyS%1").arg(std::max(0, port - 1));
+    Q_UNUSED(location);
+    return false;
 #endif
 }
+
+bool deviceThere(const QString& location)
+{
+#ifdef Q_OS_WIN
+    for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
+        if (info.portName().compare(location, Qt::CaseInsensitive) == 0)
+            return true;
+    return false;
+#else
+    return QFile::exists(location);
+#endif
+}
+
+}  // namespace
 
 QtSerialPort::QtSerialPort(QObject* parent) : QObject(parent)
 {
     connect(&port_, &QSerialPort::readyRead, this, [this] { deliverReceived(); });
+    connect(&port_, &QSerialPort::errorOccurred, this, &QtSerialPort::errorOccurred);
+    reopenTimer_.setInterval(1000);
+    connect(&reopenTimer_, &QTimer::timeout, this, &QtSerialPort::tryReopen);
 }
 
 QtSerialPort::~QtSerialPort()
@@ -74,23 +112,103 @@ QtSerialPort::~QtSerialPort()
 
 QString QtSerialPort::deviceName() const
 {
-    QStringList available;
-    for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
-        available << info.systemLocation();
-    const QString override = qEnvironmentVariable(QStringLiteral("VISTREL_COM%1").arg(commPort()).toLatin1().constData());
-    return serialDeviceName(commPort(), override, available);
+    return choosePort(commPort()).location;
+}
+
+void QtSerialPort::setState(LineState state)
+{
+    state_ = state;
+    emit lineChanged();
 }
 
 bool QtSerialPort::openPort()
 {
+    reopenTimer_.stop();
+    reopened_ = false;
     if (port_.isOpen())
         port_.close();
-    port_.setPortName(deviceName());
-    // No permission or no device: the station runs on without the line.
-    if (!port_.open(QIODevice::ReadWrite))
+    return open(choosePort(commPort()));
+}
+
+bool QtSerialPort::open(const PortChoice& choice)
+{
+    choice_ = choice;
+    errorText_.clear();
+    received_ = 0;
+    lastReceived_ = {};
+    if (choice.location.isEmpty()) {
+        setState(LineState::NoSuchPort);
         return false;
+    }
+    port_.setPortName(choice.location);
+    // No permission or no device: the station runs on without the line.
+    if (!port_.open(QIODevice::ReadWrite)) {
+        errorText_ = port_.errorString();
+        const LineState why = openFailure(port_.error(), accessDenied(choice.location), currentPortSystem());
+        port_.clearError();
+        setState(why);
+        return false;
+    }
     applySettings();
+    setState(LineState::Open);
     return true;
+}
+
+bool QtSerialPort::hungUp() const
+{
+#ifdef Q_OS_UNIX
+    // A device gone away reads as ended, with whatever errno was left;
+    // the descriptor tells it by a hang-up.
+    pollfd p{static_cast<int>(port_.handle()), POLLIN, 0};
+    if (p.fd >= 0 && ::poll(&p, 1, 0) > 0 && (p.revents & (POLLHUP | POLLERR | POLLNVAL)))
+        return true;
+#endif
+    return !deviceThere(choice_.location);
+}
+
+void QtSerialPort::errorOccurred(QSerialPort::SerialPortError error)
+{
+    // A device that goes away (a USB adapter pulled out) makes every read
+    // fail, as ResourceError or, on a hang-up, as ReadError over and over:
+    // close the port and look for the device to come back.
+    if (state_ != LineState::Open)
+        return;
+    if (error != QSerialPort::ResourceError && !(error == QSerialPort::ReadError && hungUp()))
+        return;
+    errorText_ = port_.errorString();
+    setState(LineState::Lost);
+    // Closed once Qt is out of the read that raised this; a posted call
+    // runs before the line is looked at again.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (state_ != LineState::Lost)
+                return;
+            port_.close();
+            reopenTimer_.start();
+        },
+        Qt::QueuedConnection);
+}
+
+void QtSerialPort::tryReopen()
+{
+    if (state_ != LineState::Lost) {
+        reopenTimer_.stop();
+        return;
+    }
+    const PortChoice again = choosePort(commPort());
+    if (again.location.isEmpty() || !deviceThere(again.location))
+        return;
+    const QString lostText = errorText_;
+    if (open(again)) {
+        reopenTimer_.stop();
+        reopened_ = true;
+        emit lineChanged();
+        return;
+    }
+    // Not yet usable (still being set up by the system): keep looking.
+    errorText_ = lostText;
+    setState(LineState::Lost);
 }
 
 void QtSerialPort::applySettings()
@@ -117,7 +235,11 @@ void QtSerialPort::applySettings()
 
 void QtSerialPort::closePort()
 {
+    reopenTimer_.stop();
+    const bool wasOpen = port_.isOpen() || state_ == LineState::Lost;
     port_.close();
+    if (wasOpen)
+        setState(LineState::Closed);
 }
 
 bool QtSerialPort::isOpen() const
@@ -130,6 +252,11 @@ std::string QtSerialPort::readAll()
     if (!port_.isOpen())
         return {};
     const QByteArray bytes = port_.readAll();
+    if (!bytes.isEmpty()) {
+        received_ += bytes.size();
+        lastReceived_ = QDateTime::currentDateTime();
+        emit lineChanged();
+    }
     return std::string(bytes.constData(), static_cast<size_t>(bytes.size()));
 }
 

@@ -160,7 +160,7 @@ void Screenshot::modalShown(Form& form, QWidget* window)
 
 void Screenshot::finish()
 {
-    QTimer::singleShot(SettleMs, this, [this] {
+    QTimer::singleShot(SettleMs + waitMs_, this, [this] {
         for (const ScreenAction& action : actions_) {
             const FormWindow* window = windows_.windowFor(action.form.toStdString());
             if (window && window->form().visible())

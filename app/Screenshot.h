@@ -47,6 +47,9 @@ public:
     void messageShown(QMessageBox& box) override;
     void modalShown(Form& form, QWidget* window) override;
 
+    // How long finish() waits before it acts: time for a device to send.
+    void setWait(int ms) { waitMs_ = ms; }
+
     // Call after the start-up: does the actions, takes the pictures, quits.
     void finish();
 
@@ -62,6 +65,7 @@ private:
     std::vector<ScreenAction> actions_;
     StationWindows& windows_;
     int messages_ = 0;
+    int waitMs_ = 0;
 };
 
 }  // namespace vistrel::qt

@@ -2,10 +2,44 @@
 
 #include "TextConversion.h"
 
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+
 namespace vistrel::qt {
 
+void BorderLabel::setBorder(bool on, int width)
+{
+    width = std::max(1, width);
+    if (border_ == on && width_ == width)
+        return;
+    border_ = on;
+    width_ = width;
+    // The text keeps clear of the line.
+    setContentsMargins(on ? QMargins(width + 1, width, width + 1, width) : QMargins());
+    update();
+}
+
+void BorderLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!border_)
+        return;
+    QPainter painter(this);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    const QRect r = rect();
+    painter.drawRect(r.left(), r.top(), r.width(), width_);
+    painter.drawRect(r.left(), r.bottom() - width_ + 1, r.width(), width_);
+    painter.drawRect(r.left(), r.top(), width_, r.height());
+    painter.drawRect(r.right() - width_ + 1, r.top(), width_, r.height());
+}
+
 LabelBinding::LabelBinding(Control& label, QWidget* parent, const Metrics& metrics)
-    : ControlBinding(label, new QLabel(parent), metrics), label_(static_cast<QLabel*>(widget()))
+    : ControlBinding(label, new BorderLabel(parent), metrics), label_(static_cast<BorderLabel*>(widget()))
 {
     label_->setTextFormat(Qt::PlainText);
     label_->setWordWrap(true);
@@ -17,6 +51,10 @@ void LabelBinding::apply(Prop prop)
 {
     if (prop == Prop::Caption)
         label_->setText(labelText(control().caption()));
+    else if (prop == Prop::BorderStyle)
+        // The line grows with the screens, as a line drawn one pixel wide at
+        // their size would.
+        label_->setBorder(control().borderStyle() == 1, metrics().px(15));
     else
         ControlBinding::apply(prop);
 }
@@ -35,15 +73,51 @@ void FrameBinding::apply(Prop prop)
         ControlBinding::apply(prop);
 }
 
+void PictureButton::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const bool press = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (press && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && pressed) {
+        // Held down, it steps on as a held mouse button doesn't: one key, one step.
+        if (!event->isAutoRepeat())
+            pressed();
+        event->accept();
+        return;
+    }
+    QLabel::keyPressEvent(event);
+}
+
+void PictureButton::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStylePainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(3, 3, -3, -3);
+    option.backgroundColor = palette().color(QPalette::Window);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+}
+
 ImageBinding::ImageBinding(Image& image, QWidget* parent, const Metrics& metrics)
-    : ControlBinding(image, new QLabel(parent), metrics), label_(static_cast<QLabel*>(widget()))
+    : ControlBinding(image, new PictureButton(parent), metrics),
+      label_(static_cast<PictureButton*>(widget())),
+      clickable_(static_cast<bool>(image.onClick))
 {
     label_->setTextFormat(Qt::PlainText);
     label_->setAlignment(Qt::AlignCenter);
     label_->setFrameShape(QFrame::Panel);
     label_->setFrameShadow(QFrame::Raised);
-    label_->setCursor(Qt::PointingHandCursor);
     forwardClicks(label_);
+    if (clickable_) {
+        label_->setCursor(Qt::PointingHandCursor);
+        label_->setFocusPolicy(Qt::StrongFocus);
+        label_->pressed = [this] {
+            if (control().enabled())
+                control().click();
+        };
+    }
 }
 
 void ImageBinding::apply(Prop prop)

@@ -1,12 +1,19 @@
 // vistrel: the station's window program.
 //
 //   vistrel [station arguments]
-//           [--screenshot FILE [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]
+//           [--screenshot FILE [--wait MS] [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]
 //           [--timing]
+//   vistrel --list-ports
 //
 // --press with @ROW clicks a row of a list, with @ROW,COL a cell of a grid
 // (headings counted). A modal screen gets the actions meant for it before
 // its picture is taken, except its last --press, which closes it.
+//
+// --wait lets the screenshot run wait so long after the start-up before it
+// acts and takes its pictures: time for a device on the serial line to send.
+//
+// --list-ports prints the serial ports with the numbers the station's
+// options give them, and ends.
 //
 // --timing prints how long the start took until the main window was up
 // and until the stock lists were filled, then refills the stock lists as
@@ -20,7 +27,9 @@
 
 #include "Metrics.h"
 #include "QtPlatform.h"
+#include "ScaledStyle.h"
 #include "Screenshot.h"
+#include "SerialPorts.h"
 #include "StationWindows.h"
 
 #include "core/Frm_Vistrel.h"
@@ -34,12 +43,14 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 namespace {
 
 struct Options {
     QString screenshot;
+    int waitMs = 0;
     bool timing = false;
     std::vector<vistrel::qt::ScreenAction> actions;
     QStringList stationArguments;
@@ -53,6 +64,15 @@ Options parseOptions(const QStringList& arguments)
         const QString& arg = arguments[i];
         if (arg == QLatin1String("--timing")) {
             options.timing = true;
+            continue;
+        }
+        if (arg == QLatin1String("--wait")) {
+            bool ok = false;
+            options.waitMs = i + 1 < arguments.size() ? arguments[++i].toInt(&ok) : 0;
+            if (!ok || options.waitMs < 0) {
+                options.valid = false;
+                break;
+            }
             continue;
         }
         const bool press = arg == QLatin1String("--press");
@@ -105,14 +125,30 @@ void reportRefill(vistrel::Control& reload, const vistrel::ListBox& list)
 // A picture-taking run that hangs (a dialog nobody closes) ends itself.
 constexpr int ScreenshotTimeoutMs = 120000;
 
+// The serial ports and the station's numbers for them.
+int listPorts()
+{
+    using namespace vistrel::qt;
+    const QList<SystemPort> all = systemPorts();
+    const int phantoms =
+        static_cast<int>(std::count_if(all.begin(), all.end(), [](const SystemPort& p) { return p.phantom; }));
+    const QString text = portListing(numberPorts(all, currentPortSystem()), phantoms, portOverrides());
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
+    // Before the application: listing ports needs no display.
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--list-ports") == 0)
+            return listPorts();
+
     QElapsedTimer clock;
     clock.start();
     QApplication app(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setApplicationName(QStringLiteral("Vistrel"));
     // Closing windows is the station's decision, not Qt's.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -120,12 +156,15 @@ int main(int argc, char** argv)
     const Options options = parseOptions(QApplication::arguments());
     if (!options.valid) {
         std::fprintf(stderr,
-            "usage: vistrel [--screenshot FILE [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]"
-            " [--timing]\n");
+            "usage: vistrel [--screenshot FILE [--wait MS] [--press FORM.CONTROL[@ROW[,COL]] | --type FORM.CONTROL=TEXT]...]"
+            " [--timing]\n"
+            "       vistrel --list-ports\n");
         return 2;
     }
 
     const vistrel::qt::Metrics metrics = vistrel::qt::Metrics::fromEnvironment();
+    QApplication::setStyle(
+        new vistrel::qt::ScaledStyle(QStyleFactory::create(QStringLiteral("Fusion")), metrics.fontScale()));
     if (metrics.fontScale() != 1.0) {
         // Menus and message boxes grow with the screens.
         QFont font = QApplication::font();
@@ -142,8 +181,9 @@ int main(int argc, char** argv)
     std::unique_ptr<vistrel::qt::Screenshot> screenshot;
     if (!options.screenshot.isEmpty()) {
         screenshot = std::make_unique<vistrel::qt::Screenshot>(options.screenshot, options.actions, windows);
+        screenshot->setWait(options.waitMs);
         platform.setDialogWatcher(screenshot.get());
-        QTimer::singleShot(ScreenshotTimeoutMs, [] {
+        QTimer::singleShot(ScreenshotTimeoutMs + options.waitMs, [] {
             std::fprintf(stderr, "screenshot: the start-up did not finish\n");
             std::_Exit(3);
         });

@@ -3,16 +3,19 @@
 
 #include "Frm_Autorefractor.h"
 
+#include <initializer_list>
+
 namespace vistrel {
 
 void Frm_Autorefractor::design()
 {
     setCaption("Autorefractor Data Captured.                                        Version 5.3-2");
-    setGeometry(0, 8475, 9600, 4200);
+    setGeometry(0, 8475, 9600, 4500);
     for (int i = 0; i <= 1; ++i) {
         const int x = i == 0 ? 240 : 4800;
         Frame& eye = i == 0 ? Frm_LettEyeAuto0 : Frm_LettEyeAuto1;
-        eye.setCaption(i == 0 ? "Left" : "Right");
+        // The boxes have no headings of their own: the frame names them.
+        eye.setCaption(i == 0 ? "Left eye (OS):   Sphere,  Cylinder,  Axis" : "Right eye (OD):   Sphere,  Cylinder,  Axis");
         eye.setGeometry(x, 120, 4320, 1200);
         const char* tip = "It is easier to make changes of this field on the main form.";
         Txt_AutoSphere[i].setContainer(&eye);
@@ -73,13 +76,25 @@ void Frm_Autorefractor::design()
     Lbl_ErrorStatus.setBackColor(16776960);
     Lbl_ErrorStatus.setForeColor(0);
     Frm_Notice.setCaption(" NOTICE");
-    Frm_Notice.setGeometry(6480, 2880, 2880, 900);
+    Frm_Notice.setGeometry(6480, 2940, 2880, 960);
     Lbl_VerifyLeftRightConfidenceValues.setContainer(&Frm_Notice);
     Lbl_VerifyLeftRightConfidenceValues.setCaption(
         "Verify the above left && right \"Confidence Values\" BEFORE search.");
-    Lbl_VerifyLeftRightConfidenceValues.setGeometry(120, 240, 2640, 600);
+    Lbl_VerifyLeftRightConfidenceValues.setGeometry(120, 240, 2640, 660);
     Lbl_Describe.setCaption("Form appears when transmitting from autorefractor to P.C.");
     Lbl_Describe.setGeometry(240, 3480, 6000, 300);
+
+    // The keyboard goes through an eye's three values before the other
+    // eye's, then as the screen reads, left to right and down.
+    int tab = 1;
+    for (int i = 0; i <= 1; ++i)
+        for (TextBox* box : {&Txt_AutoSphere[i], &Txt_AutoCylinder[i], &Txt_AutoAxis[i]})
+            box->setTabIndex(tab++);
+    for (Control* c : std::initializer_list<Control*>{&Txt_AutoReading, &Txt_LeftConfidenceValue,
+             &Cmd_LeftConfidenceUP, &Cmd_LeftConfidenceDOWN, &Txt_RightConfidenceValue, &Cmd_RightConfidenceUP,
+             &Cmd_RightConfidenceDOWN, &Chk_AutoEnableAutoSearch, &Cmd_AutoClearAll, &Cmd_AutoClearLeft,
+             &Cmd_AutoClearRight, &Cmd_AutoSearch, &Cmd_HideAutorefractorDataCaptureForm})
+        c->setTabIndex(tab++);
 }
 
 }  // namespace vistrel

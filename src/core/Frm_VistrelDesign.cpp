@@ -382,6 +382,10 @@ void Frm_Vistrel::design()
     for (Control* c : std::initializer_list<Control*>{&Lbl_PracticePlay, &Img_Backwards, &Txt_Play_Person_Nr,
              &Img_Forward})
         c->setVisible(false);
+    // Tab goes as the eye reads: back, the person, forward.
+    Img_Backwards.setTabIndex(40);
+    Txt_Play_Person_Nr.setTabIndex(41);
+    Img_Forward.setTabIndex(42);
 }
 
 }  // namespace vistrel

@@ -189,20 +189,6 @@ private slots:
         QCOMPARE(parseSerialSettings("").baud, 9600);
     }
 
-    void portNumbersNameDevices()
-    {
-        const QStringList ports{QStringLiteral("/dev/ttyUSB1"), QStringLiteral("/dev/ttyS0"), QStringLiteral("/dev/ttyACM0")};
-        QCOMPARE(serialDeviceName(3, QStringLiteral("/dev/pts/7"), ports), QStringLiteral("/dev/pts/7"));
-#ifdef Q_OS_WIN
-        QCOMPARE(serialDeviceName(3, QString(), ports), QStringLiteral("COM3"));
-#else
-        QCOMPARE(serialDeviceName(1, QString(), ports), QStringLiteral("/dev/ttyACM0"));
-        QCOMPARE(serialDeviceName(2, QString(), ports), QStringLiteral("/dev/ttyS0"));
-        QCOMPARE(serialDeviceName(5, QString(), ports), QStringLiteral("/dev/ttyS4"));
-        QCOMPARE(serialDeviceName(1, QString(), {}), QStringLiteral("/dev/ttyS0"));
-#endif
-    }
-
     // ---- shell ----
     void shellOpensFilesAndStartsCommands()
     {

@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QtTest>
 
 using namespace vistrel;
@@ -81,6 +82,35 @@ private slots:
         b.form.Cmd_Go.setGeometry(20000, 20000, 450, 300);
         b.form.setCaption("once more");
         QCOMPARE(b.window.canvas()->size(), QSize(600, 380));
+    }
+
+    void aControlShownPastTheEdgeGetsRoomAtOnce()
+    {
+        BoundForm b(station());
+        b.form.setGeometry(0, 0, 9120, 6165);
+        b.form.Cmd_Go.setGeometry(8700, 5550, 450, 300);
+        b.form.Cmd_Go.setVisible(false);
+        b.form.setCaption("fitted without the button");
+        QCOMPARE(b.window.canvas()->size(), QSize(600, 380));
+        // Shown by a handler, as practice play shows its controls.
+        b.form.Cmd_Go.setVisible(true);
+        QTRY_COMPARE(b.window.canvas()->size(), QSize(612, 392));
+        b.form.Cmd_Go.setVisible(false);
+        QTRY_COMPARE(b.window.canvas()->size(), QSize(600, 380));
+    }
+
+    void aScreenPlacedLowStaysOnTheScreen()
+    {
+        BoundForm b(station());
+        const QRect room = b.window.window()->screen()->availableGeometry();
+        // Drawn 1.5 screens down, as the capture screen is on a small one.
+        b.form.setGeometry(1500, (room.height() * 3 / 2) * 15, 6000, 3000);
+        b.form.show();
+        const QWidget* w = b.window.window();
+        QCOMPARE(w->x(), 100);
+        QVERIFY2(w->y() >= room.top() && w->y() + w->height() <= room.bottom() + 1,
+            qPrintable(QStringLiteral("%1 + %2 in %3").arg(w->y()).arg(w->height()).arg(room.height())));
+        b.form.hide();
     }
 
     void theCaretStartsInTheFirstControlByTabIndex()
