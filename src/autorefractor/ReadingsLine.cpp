@@ -5,11 +5,23 @@
 
 namespace vistrel {
 
+namespace {
+
+// A device's raw column can bring a line end along; in the file it would
+// split the reading.
+std::string oneLine(std::string text)
+{
+    std::erase_if(text, [](char c) { return c == '\r' || c == '\n'; });
+    return text;
+}
+
+}  // namespace
+
 std::string ReadingsLine(const std::array<std::string, 10>& fields)
 {
-    std::string line = LTrim(fields[0]);
+    std::string line = LTrim(oneLine(fields[0]));
     for (size_t i = 1; i < fields.size(); ++i)
-        line += "," + Trim(fields[i]);
+        line += "," + Trim(oneLine(fields[i]));
     return line;
 }
 

@@ -10,7 +10,8 @@ inline const char* const PracticeReadingsFileName = "AutoRefractorReadings_Pract
 
 // A line of the readings file from its ten texts: person number, age, the
 // right eye's sphere, cylinder and axis, the left eye's, date and time. The
-// person number loses its leading blanks only; the others are trimmed.
+// person number loses its leading blanks only; the others are trimmed. A
+// line end inside a field is dropped: one reading, one line.
 std::string ReadingsLine(const std::array<std::string, 10>& fields);
 
 // A row of the readings browser from the ten fields read back, every blank
