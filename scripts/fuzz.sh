@@ -19,7 +19,8 @@ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
     targets=(fuzz_decoder_retinomax fuzz_decoder_topcon fuzz_decoder_burton_velo fuzz_decoder_shin_nippon
-        fuzz_decoder_humphrey fuzz_decoder_suresight fuzz_decoder_marco_nidek fuzz_decoder_canon)
+        fuzz_decoder_humphrey fuzz_decoder_suresight fuzz_decoder_marco_nidek fuzz_decoder_canon
+        fuzz_readings_file)
 fi
 cmake --build build-fuzz --parallel 2 --target "${targets[@]}"
 

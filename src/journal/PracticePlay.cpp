@@ -122,10 +122,12 @@ void Frm_Vistrel::Txt_Play_Person_Nr_Change()
 void Frm_Vistrel::LoadPractice()
 {
     Practice_Loaded = true;
-    const auto rows = static_cast<size_t>(PracticeRows);
-    for (auto* table : {&Practice_Age, &Practice_RightSphere, &Practice_RightCylinder, &Practice_RightAxis,
-             &Practice_LeftSphere, &Practice_LeftCylinder, &Practice_LeftAxis})
-        table->assign(rows, std::string());
+    // The tables grow to the highest person read; a person past their end
+    // has no reading.
+    const auto tables = {&Practice_Age, &Practice_RightSphere, &Practice_RightCylinder, &Practice_RightAxis,
+        &Practice_LeftSphere, &Practice_LeftCylinder, &Practice_LeftAxis};
+    for (auto* table : tables)
+        table->clear();
 
     // 2, 3. The practice copy in the network folder, else in the station's
     // own; made from the readings file once, never remade.
@@ -174,6 +176,9 @@ void Frm_Vistrel::LoadPractice()
         if (number < 1 || number > PracticeRows)
             continue;
         const auto row = static_cast<size_t>(number - 1);
+        if (row >= Practice_Age.size())
+            for (auto* table : tables)
+                table->resize(row + 1);
         Practice_Age[row] = age;
         Practice_RightSphere[row] = rightSphere;
         Practice_RightCylinder[row] = rightCylinder;
