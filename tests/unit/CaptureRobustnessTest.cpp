@@ -177,6 +177,128 @@ TEST_F(CaptureNoise, AnyBytesOnTheLineForEveryModel)
     EXPECT_EQ(readings.substr(readings.size() - 2), "\r\n");
 }
 
+// ---- Every example message through the capture screen ----
+
+struct ExampleCase {
+    std::string type;
+    std::vector<std::string> transmissions;
+    std::string left, right, reading, replies, check;
+};
+
+std::string unescape(const std::string& text)
+{
+    std::string out;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\' || i + 1 >= text.size()) {
+            out += text[i];
+            continue;
+        }
+        const char c = text[++i];
+        if (c == 'r')
+            out += '\r';
+        else if (c == 'n')
+            out += '\n';
+        else if (c == 'x' && i + 2 < text.size() + 1) {
+            out += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
+            i += 2;
+        } else
+            out += c;
+    }
+    return out;
+}
+
+std::vector<ExampleCase> exampleCases()
+{
+    const std::pair<const char*, const char*> folders[] = {{"retinomax", "NIKON RETINOMAX"},
+        {"retinomax2", "NIKON RETINOMAX2"}, {"retinomax3", "NIKON RETINOMAX3"}, {"topcon", "TOPCON KR-3000-7000"},
+        {"burton-velo", "BURTON VELO 20-10"}, {"shin-nippon", "SHIN NIPPON 8001"},
+        {"reichert-rk600", "REICHERT RK600"}, {"humphrey-597", "HUMPHREY 597"},
+        {"suresight", "WELCHALLYN SURESIGHT"}, {"marco-nidek", "MARCONIDEK ARK-20/30"},
+        {"canon-rk2", "CANON RK-2"}};
+    std::vector<ExampleCase> cases;
+    for (const auto& [folder, type] : folders) {
+        const std::filesystem::path dir = std::filesystem::path(VISTREL_TEST_DATA "/autorefractor") / folder;
+        std::error_code ec;
+        for (std::filesystem::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+            if (it->path().extension() != ".expected")
+                continue;
+            ExampleCase c;
+            c.type = type;
+            const std::string stem = it->path().stem().string();
+            if (std::filesystem::exists(dir / (stem + ".msg")))
+                c.transmissions.push_back(readFile(dir / (stem + ".msg")));
+            for (int n = 1; std::filesystem::exists(dir / (stem + "." + std::to_string(n) + ".msg")); ++n)
+                c.transmissions.push_back(readFile(dir / (stem + "." + std::to_string(n) + ".msg")));
+            std::ifstream in(it->path());
+            for (std::string line; std::getline(in, line);) {
+                const auto eq = line.find('=');
+                const std::string key = line.substr(0, eq), value = eq == std::string::npos ? "" : line.substr(eq + 1);
+                if (key == "left")
+                    c.left = value;
+                else if (key == "right")
+                    c.right = value;
+                else if (key == "replies")
+                    c.replies = unescape(value);
+                else if (key == "check")
+                    c.check = value;
+            }
+            cases.push_back(std::move(c));
+        }
+    }
+    return cases;
+}
+
+std::string eyeOf(TextBox& sphere, TextBox& cylinder, TextBox& axis)
+{
+    return sphere.text() + "|" + cylinder.text() + "|" + axis.text();
+}
+
+// The capture screen as a whole over each example: the answers on the line,
+// the verdict on the label, and what reaches the main screen.
+TEST_F(CaptureNoise, EveryExampleMessageEndToEnd)
+{
+    const std::vector<ExampleCase> cases = exampleCases();
+    ASSERT_GT(cases.size(), 50U);
+    Frm_Vistrel& v = station->vistrel();
+    Frm_Autorefractor& capture = station->autorefractor();
+    for (const ExampleCase& c : cases) {
+        SCOPED_TRACE(c.type + ": " + c.left + " / " + c.right);
+        v.AutoRefractorType = c.type;
+        for (int i = 0; i <= 1; ++i) {
+            capture.Txt_AutoSphere[i].setText("");
+            capture.Txt_AutoCylinder[i].setText("");
+            capture.Txt_AutoAxis[i].setText("");
+        }
+        v.Txt_Sphere_Left.setText("unchanged");
+        platform.line.replies.clear();
+        for (const std::string& transmission : c.transmissions) {
+            platform.line.receive(transmission);
+            tickUntilQuiet(capture);
+        }
+        EXPECT_EQ(platform.line.replies, c.replies);
+        const std::string label = capture.Lbl_ErrorStatus.caption();
+        if (c.check == "OK") {
+            EXPECT_NE(label.find("OK"), std::string::npos);
+            // An axis of 180 comes over as 0.
+            auto moved = [](std::string eye) {
+                const auto bar = eye.rfind('|');
+                if (Val(eye.substr(bar + 1)) == 180)
+                    eye = eye.substr(0, bar + 1) + "0";
+                return eye;
+            };
+            EXPECT_EQ(eyeOf(v.Txt_Sphere_Left, v.Txt_Cylinder_Left, v.Txt_Axis_Left), moved(c.left));
+            EXPECT_EQ(eyeOf(v.Txt_Sphere_Right, v.Txt_Cylinder_Right, v.Txt_Axis_Right), moved(c.right));
+        } else {
+            EXPECT_EQ(v.Txt_Sphere_Left.text(), "unchanged") << "a refused reading reached the main screen";
+            EXPECT_TRUE(capture.EntryError);
+            if (c.check == "RK600 PARTIAL")
+                EXPECT_EQ(label, "RK600 Partial Data Detected.");
+        }
+        if (HasFailure())
+            return;
+    }
+}
+
 // A device type the station has no decoder for ends the program with its
 // box at the first message, as an options file with it would have.
 TEST_F(CaptureNoise, AnUnknownModelEndsTheProgramWithItsBox)
