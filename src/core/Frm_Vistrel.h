@@ -567,6 +567,9 @@ public:
     void Cmd_RightResetCutBack_Click();
     void Cmd_BothReset_Click();
 
+    // ---- The wizard (src/wizard) ----
+    void Cmd_RunAdvisor_Click();
+
     // ---- Reversal of the screen ----
     void TabIndexleft();
     void TabIndexRight();
