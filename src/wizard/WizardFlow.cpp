@@ -18,7 +18,10 @@ void Frm_Vistrel::Cmd_RunAdvisor_Click()
     Frm_Advisor& wizard = advisor();
     wizard.Showing = true;
     wizard.show(true);
-    wizard.Showing = false;
+    // The window waits here until the wizard is left; a script may keep it
+    // up and work it, and then leaving it clears the flag.
+    if (!wizard.visible())
+        wizard.Showing = false;
 }
 
 void Frm_Advisor::guide(const std::string& text)

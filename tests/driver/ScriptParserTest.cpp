@@ -129,6 +129,16 @@ TEST(ParseStatement, TargetOnlyStatementsRefuseExtraText)
     EXPECT_THROW(parseStatement("call F.RefreshAll x"), ScriptError);
 }
 
+TEST(ParseStatement, StayNamesAScreenOnly)
+{
+    const Statement st = parsed("stay Frm_Advisor");
+    EXPECT_EQ(st.command, Command::Stay);
+    EXPECT_EQ(st.target.form, "Frm_Advisor");
+    EXPECT_THROW(parseStatement("stay"), ScriptError);
+    EXPECT_THROW(parseStatement("stay Frm_Advisor.Cmd_Exit"), ScriptError);
+    EXPECT_THROW(parseStatement("stay Frm_Advisor now"), ScriptError);
+}
+
 TEST(ParseStatement, PrintTakesATargetWithBlanksInsideParentheses)
 {
     Statement st = parsed("print   F.Grid(0).CellBackColor(2, 3)  ");

@@ -68,7 +68,7 @@ std::optional<Command> commandNamed(std::string_view word)
     static constexpr std::pair<std::string_view, Command> names[] = {
         {"start", Command::Start}, {"set", Command::Set}, {"check", Command::Check},
         {"select", Command::Select}, {"click", Command::Click}, {"dblclick", Command::DblClick},
-        {"call", Command::Call}, {"answer", Command::Answer}, {"serial", Command::Serial},
+        {"call", Command::Call}, {"answer", Command::Answer}, {"stay", Command::Stay}, {"serial", Command::Serial},
         {"tick", Command::Tick}, {"print", Command::Print},
     };
     for (const auto& [name, command] : names)
@@ -106,6 +106,16 @@ std::optional<Statement> parseStatement(std::string_view line)
     case Command::Print:
         st.target = parseTarget(trimmed(rest), true);
         return st;
+    case Command::Stay: {
+        // A screen, not a control: the whole word is the form's name.
+        const std::string_view form = nextWord(rest);
+        if (form.empty() || form.find('.') != std::string_view::npos)
+            throw ScriptError("stay takes the name of a screen, e.g. 'stay Frm_Advisor'");
+        st.target.text = std::string(form);
+        st.target.form = std::string(form);
+        expectEnd(rest, keyword);
+        return st;
+    }
     default:
         break;
     }

@@ -8,12 +8,12 @@
 
 namespace vistrel::script {
 
-enum class Command { Start, Set, Check, Select, Click, DblClick, Call, Answer, Serial, Tick, Print };
+enum class Command { Start, Set, Check, Select, Click, DblClick, Call, Answer, Stay, Serial, Tick, Print };
 
 // One statement of a script.
 struct Statement {
     Command command = Command::Start;
-    TargetRef target;                // all but start and serial
+    TargetRef target;                // all but start and serial (stay: the form only)
     std::optional<std::string> value;  // start, set, check, serial
     std::optional<int> number;         // the ROW of click/dblclick, the N of tick
     std::optional<int> column;         // the COL of a grid's click/dblclick

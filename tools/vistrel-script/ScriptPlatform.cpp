@@ -28,6 +28,8 @@ void ScriptPlatform::runModal(Form& form)
     if (queued != answers_.end() && !queued->second.empty()) {
         Control* button = queued->second.front();
         queued->second.pop_front();
+        if (!button)
+            return;  // stays up for the statements that follow
         button->click();
         if (form.visible())
             form.closeBox();
@@ -46,6 +48,11 @@ void ScriptPlatform::runModal(Form& form)
 void ScriptPlatform::queueAnswer(Form& form, Control& button)
 {
     answers_[&form].push_back(&button);
+}
+
+void ScriptPlatform::queueStay(Form& form)
+{
+    answers_[&form].push_back(nullptr);
 }
 
 void ScriptPlatform::shell(const std::string& what)

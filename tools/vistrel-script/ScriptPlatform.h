@@ -56,6 +56,9 @@ public:
     void setCommandLine(std::string line) { commandLine_ = std::move(line); }
     // The next time `form` runs modally, `button` is clicked (first in, first out).
     void queueAnswer(Form& form, Control& button);
+    // The next time `form` runs modally it stays up: the statements that
+    // follow work it, and its own buttons close it. Queued with the answers.
+    void queueStay(Form& form);
     ScriptSerialPort& scriptSerialPort() { return serial_; }
     TextPrinter& textPrinter() { return printer_; }
     Output& output() { return *out_; }

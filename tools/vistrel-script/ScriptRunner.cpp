@@ -66,6 +66,9 @@ void ScriptRunner::run(const Statement& st)
         platform_->queueAnswer(button.form(), button);
         return;
     }
+    case Command::Stay:
+        platform_->queueStay(resolveForm(st.target.form, forms_));
+        return;
     case Command::Serial:
         platform_->scriptSerialPort().receive(*st.value);
         return;
