@@ -3,7 +3,10 @@
 #include "TextConversion.h"
 
 #include <QStyleOptionButton>
+#include <QKeyEvent>
 #include <QStylePainter>
+
+#include <algorithm>
 
 namespace vistrel::qt {
 
@@ -19,12 +22,15 @@ QStringList captionPieces(const QString& caption)
             pieces << piece;
         piece.clear();
     };
-    for (const QChar c : caption) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        const QChar c = caption[i];
         const bool blank = c == QLatin1Char(' ');
         if (!piece.isEmpty() && (piece.back() == QLatin1Char(' ')) != blank)
             flush();
         piece += c;
-        if (c == QLatin1Char('-'))
+        // A minus sign stays with its number; a hyphen may end a line.
+        const bool minusSign = i + 1 < caption.size() && (caption[i + 1].isDigit() || caption[i + 1] == QLatin1Char('.'));
+        if (c == QLatin1Char('-') && !minusSign)
             flush();
     }
     flush();
@@ -87,6 +93,48 @@ void WrappingPushButton::paintEvent(QPaintEvent* /*event*/)
     }
 }
 
+void MirrorCheckBox::paintEvent(QPaintEvent* event)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QRect area = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+    const QFontMetrics metrics = fontMetrics();
+    const auto shownWidth = [&](const QString& text) { return metrics.horizontalAdvance(labelText(toCore(text))); };
+    if (text().contains(QLatin1Char('\n')) || shownWidth(text()) <= area.width()
+        || height() < 2 * metrics.height()) {
+        QCheckBox::paintEvent(event);
+        return;
+    }
+
+    QStylePainter painter(this);
+    const QString caption = option.text;
+    option.text.clear();
+    option.state &= ~QStyle::State_HasFocus;
+    painter.drawControl(QStyle::CE_CheckBox, option);
+
+    // Runs of blanks placed a word on the next line of a narrower box.
+    const QString words = caption.simplified();
+    const QStringList lines = wrapCaption(words, shownWidth, area.width());
+    const int lineHeight = metrics.height();
+    const int shown = std::min(static_cast<int>(lines.size()), std::max(1, height() / lineHeight));
+    QRect line(area.left(), area.center().y() - lineHeight * shown / 2, area.width(), lineHeight);
+    int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+    if (!style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this))
+        flags |= Qt::TextHideMnemonic;
+    QRect textArea = line;
+    for (int i = 0; i < shown; ++i) {
+        style()->drawItemText(&painter, line, flags, option.palette, isEnabled(), lines[i], QPalette::WindowText);
+        textArea |= line;
+        line.translate(0, lineHeight);
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = textArea.adjusted(-1, 0, 1, 0);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
+}
+
 CommandButtonBinding::CommandButtonBinding(CommandButton& button, QWidget* parent, const Metrics& metrics)
     : ControlBinding(button, new WrappingPushButton(parent), metrics), button_(static_cast<QPushButton*>(widget()))
 {
@@ -132,6 +180,17 @@ void CheckBoxBinding::apply(Prop prop)
     }
 }
 
+void MirrorRadioButton::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const int step = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : key == Qt::Key_Left || key == Qt::Key_Up ? -1 : 0;
+    if (step != 0 && event->modifiers() == Qt::NoModifier && stepped && stepped(step)) {
+        event->accept();
+        return;
+    }
+    QRadioButton::keyPressEvent(event);
+}
+
 OptionButtonBinding::OptionButtonBinding(OptionButton& option, QWidget* parent, const Metrics& metrics)
     : ControlBinding(option, new MirrorRadioButton(parent), metrics),
       option_(option),
@@ -141,6 +200,31 @@ OptionButtonBinding::OptionButtonBinding(OptionButton& option, QWidget* parent, 
         option_.select();
         apply(Prop::Value);
     });
+    radio_->stepped = [this](int step) { return stepWithin(step); };
+}
+
+// The next option of the group that can be chosen, round the end; its
+// widget is the sibling named after it.
+bool OptionButtonBinding::stepWithin(int step)
+{
+    const std::vector<OptionButton*>& members = option_.group().members();
+    const auto count = static_cast<int>(members.size());
+    const auto at = static_cast<int>(std::find(members.begin(), members.end(), &option_) - members.begin());
+    for (int i = 1; i < count; ++i) {
+        OptionButton* next = members[static_cast<std::size_t>(((at + step * i) % count + count) % count)];
+        if (!next->visible() || !next->enabled())
+            continue;
+        auto* widget = radio_->parentWidget()
+            ? radio_->parentWidget()->findChild<QWidget*>(QString::fromStdString(next->fullName()),
+                  Qt::FindDirectChildrenOnly)
+            : nullptr;
+        if (!widget || !widget->isVisible())
+            continue;
+        widget->setFocus(Qt::TabFocusReason);
+        next->select();
+        return true;
+    }
+    return false;
 }
 
 void OptionButtonBinding::apply(Prop prop)

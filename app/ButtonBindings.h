@@ -14,7 +14,9 @@
 namespace vistrel::qt {
 
 // A check box that leaves its state to the core: a click only reports.
-// The whole box takes clicks, caption or not.
+// The whole box takes clicks, caption or not. A caption too long for one
+// line wraps onto the lines the box has room for, as the screens' tall
+// check boxes expect.
 class MirrorCheckBox : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
@@ -22,16 +24,22 @@ public:
 protected:
     void nextCheckState() override {}
     bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+    void paintEvent(QPaintEvent* event) override;
 };
 
 // An option button that leaves its state (and its group's) to the core.
+// The arrow keys step to the group's previous or next option and select
+// it, as a group of options is worked from the keyboard.
 class MirrorRadioButton : public QRadioButton {
 public:
     explicit MirrorRadioButton(QWidget* parent = nullptr) : QRadioButton(parent) { setAutoExclusive(false); }
+    // Steps by +1 or -1 through the group; true when an option took the step.
+    std::function<bool(int step)> stepped;
 
 protected:
     void nextCheckState() override {}
     bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 // Breaks a caption into lines as the screens' buttons always did: at
@@ -93,6 +101,8 @@ protected:
     void applyAllOwn() override { apply(Prop::Value); }
 
 private:
+    bool stepWithin(int step);
+
     OptionButton& option_;
     MirrorRadioButton* radio_;
 };

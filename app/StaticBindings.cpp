@@ -3,6 +3,7 @@
 #include "TextConversion.h"
 
 #include <QKeyEvent>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <QPainter>
@@ -38,6 +39,40 @@ void BorderLabel::paintEvent(QPaintEvent* event)
     painter.drawRect(r.right() - width_ + 1, r.top(), width_, r.height());
 }
 
+void BorderLabel::setCaption(const QString& caption)
+{
+    caption_ = caption;
+    showCaption();
+}
+
+void BorderLabel::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    showCaption();
+}
+
+void BorderLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        showCaption();
+}
+
+// Runs of blanks inside a caption pushed its next words onto a new line at
+// the width the screen was drawn for. Where the words wrap anyway they only
+// leave holes, so a caption that wraps shows single blanks between words.
+void BorderLabel::showCaption()
+{
+    const QFontMetrics metrics = fontMetrics();
+    const QRect box = contentsRect();
+    const bool wraps = !caption_.contains(QLatin1Char('\n')) && box.height() >= 2 * metrics.height()
+        && metrics.horizontalAdvance(caption_) > box.width();
+    static const QRegularExpression innerBlanks(QStringLiteral("(?<=\\S) {2,}(?=\\S)"));
+    const QString shown = wraps ? QString(caption_).replace(innerBlanks, QStringLiteral(" ")) : caption_;
+    if (text() != shown)
+        setText(shown);
+}
+
 LabelBinding::LabelBinding(Control& label, QWidget* parent, const Metrics& metrics)
     : ControlBinding(label, new BorderLabel(parent), metrics), label_(static_cast<BorderLabel*>(widget()))
 {
@@ -50,7 +85,7 @@ LabelBinding::LabelBinding(Control& label, QWidget* parent, const Metrics& metri
 void LabelBinding::apply(Prop prop)
 {
     if (prop == Prop::Caption)
-        label_->setText(labelText(control().caption()));
+        label_->setCaption(labelText(control().caption()));
     else if (prop == Prop::BorderStyle)
         // The line grows with the screens, as a line drawn one pixel wide at
         // their size would.

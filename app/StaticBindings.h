@@ -19,13 +19,20 @@ public:
     bool border() const { return border_; }
     // A line of the given width in pixels, or none.
     void setBorder(bool on, int width = 1);
+    // The caption as the screen has it; the label shows it fitted to its box.
+    void setCaption(const QString& caption);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void showCaption();
+
     bool border_ = false;
     int width_ = 1;
+    QString caption_;
 };
 
 // A label: plain text, wrapped within its box, opaque, clickable, with a

@@ -77,7 +77,7 @@ struct EyeDesign {
 void designEye(const EyeDesign& e, bool left, int frameLeft)
 {
     const std::string eyeWord = left ? "left" : "right";
-    place(e.frame, nullptr, frameLeft, 120, 4800, 5340, left ? "Left Eye" : "Right Eye");
+    place(e.frame, nullptr, frameLeft, 120, 4800, 4440, left ? "Left Eye" : "Right Eye");
     e.frame.setBackColor(colors::Cyan);
     Frame* f = &e.frame;
 
@@ -126,24 +126,27 @@ void designEye(const EyeDesign& e, bool left, int frameLeft)
         e.options[i]->setBackColor(wizard::MultiplierColor(0));
     }
 
-    // The cases, each with what it does beside it.
-    place(e.case1, f, 120, 2940, 2700, 420, "Case 1 (Cylinder is -1.75 or smaller)",
+    // The cases, each with what it does beside it. Cases 1 and 2 are for a
+    // small cylinder and 3 and 4 for a large one, and 3 and 4 exclude each
+    // other: an eye never shows more than two, so 3 and 4 take the place
+    // of 1 and 2.
+    place(e.case1, f, 120, 2940, 2760, 600, "Case 1 (Cylinder is -1.75 or smaller)",
         "Select this case and a search will be made based upon spherical equivalence and not Sphere, Cylinder & "
         "axis.");
-    place(e.switchSE, f, 2880, 2940, 1800, 420, "Action: (Switch to Spherical Equivalent)");
-    place(e.case2, f, 120, 3420, 2700, 420, "Case 2     (Cylinder is -1.00 or less)",
+    place(e.switchSE, f, 2940, 2940, 1740, 600, "Action: (Switch to Spherical Equivalent)");
+    place(e.case2, f, 120, 3600, 2760, 420, "Case 2     (Cylinder is -1.00 or less)",
         "Select this case & cylinder is cleared.  Case 1 no longer applicable.");
-    place(e.clearCylinder, f, 2880, 3420, 1800, 420, "Action:  (Clear out cylinder)");
-    place(e.case3, f, 120, 3900, 2700, 420,
+    place(e.clearCylinder, f, 2940, 3600, 1740, 420, "Action:  (Clear out cylinder)");
+    place(e.case3, f, 120, 2940, 2760, 660,
         "Case 3 (Cylinder is -2.00 or more &&      Sphere is greater than + or -2.00)",
         "Select this case & the system automatically searches up to 10 times cutting back cylinder (no more than "
         "1/2) each time by .25 but keeping spherical equivalent the same.");
-    place(e.case4, f, 120, 4380, 2700, 420,
+    place(e.case4, f, 120, 2940, 2760, 660,
         "Case 4 (Cylinder is -2.00 or more &&      Sphere is smaller than + or -2.00)",
         "Select this case & cylinder is cut up to 1/2 for the maximum number of matches.");
-    place(e.halfCylinder, f, 2880, 3900, 1800, 900,
+    place(e.halfCylinder, f, 2940, 2940, 1740, 1020,
         "Action:  (Cutback Cylinder up to 20 times               but not more than half)");
-    place(e.multiple, f, 120, 4920, 4560, 255, "Cases 3,4 performed multiple times.");
+    place(e.multiple, f, 120, 4080, 4560, 255, "Cases 3,4 performed multiple times.");
 }
 
 }  // namespace
@@ -151,7 +154,7 @@ void designEye(const EyeDesign& e, bool left, int frameLeft)
 void Frm_Advisor::design()
 {
     setCaption("Prescription Modification Wizard");
-    setGeometry(0, 0, NarrowWidth, 9600);
+    setGeometry(0, 0, NarrowWidth, 8760);
 
     designEye({Frm_Left, Lbl_Sphere_Left, Txt_Sphere_Left, Cmd_SphereLeftUp, Cmd_SphereLeftDown, Lbl_Cylinder_Left,
                   Txt_Cylinder_Left, Cmd_CylinderLeftUp, Cmd_CylinderLeftDown, Lbl_Axis_Left, Txt_Axis_Left,
@@ -175,23 +178,23 @@ void Frm_Advisor::design()
     Opt_Right1.setValue(true);
 
     // For the person.
-    place(Lbl_Age, nullptr, 120, 5580, 480, 255, "Age");
-    place(Txt_Age, nullptr, 600, 5520, 600, 330, {}, "The age as on the main window.");
+    place(Lbl_Age, nullptr, 120, 4740, 480, 255, "Age");
+    place(Txt_Age, nullptr, 600, 4680, 600, 330, {}, "The age as on the main window.");
     Txt_Age.setLocked(true);
-    place(Chk_Case5_Still_no_match, nullptr, 120, 5940, 4800, 300,
+    place(Chk_Case5_Still_no_match, nullptr, 120, 5100, 4800, 300,
         "Case 5 (Tried many things and still no good matches)",
         "Select this case and the allowed margin for glasses to appear on the list is doubled.");
-    place(Lbl_Change_Default_times_2, nullptr, 120, 6240, 4800, 255, "Action:  (Change Default values times 2)");
-    place(Chk_Case6_Desperate, nullptr, 120, 6540, 4800, 300, "Case 6 (I'm desperate.  I need something to try)",
+    place(Lbl_Change_Default_times_2, nullptr, 120, 5400, 4800, 255, "Action:  (Change Default values times 2)");
+    place(Chk_Case6_Desperate, nullptr, 120, 5700, 4800, 300, "Case 6 (I'm desperate.  I need something to try)",
         "Click this case if all else fails to give you a list of glasses that you can try.");
-    place(Chk_VarnOverCylinder50, nullptr, 120, 6900, 4800, 300,
+    place(Chk_VarnOverCylinder50, nullptr, 120, 6060, 4800, 300,
         "Rule Change: Allow -.50 Over Cylinder with Varns Rules.");
-    place(Lbl_Asterisk, nullptr, 1320, 5580, 480, 255, "***");
-    place(Chk_BiFocal_Remove, nullptr, 1800, 5550, 300, 300, {},
+    place(Lbl_Asterisk, nullptr, 1320, 4740, 480, 255, "***");
+    place(Chk_BiFocal_Remove, nullptr, 1800, 4710, 300, 300, {},
         "Check here to remove BiFocal/Trifocal/Progressive Add from search.  Give Readers instead.");
 
     // The legend of the eye-condition colours.
-    place(Lbl_Legend, nullptr, 5010, 5580, 4800, 255, "Eye condition colours:");
+    place(Lbl_Legend, nullptr, 5010, 4740, 4800, 255, "Eye condition colours:");
     struct LegendEntry {
         TextBox& box;
         const char* text;
@@ -216,7 +219,7 @@ void Frm_Advisor::design()
     int x = 5010;
     for (const LegendEntry& entry : legend) {
         const int width = &entry.box == &Txt_Best ? 1320 : 870;
-        place(entry.box, nullptr, x, 5880, width, 330, {}, entry.tip);
+        place(entry.box, nullptr, x, 5040, width, 330, {}, entry.tip);
         entry.box.setText(entry.text);
         entry.box.setBackColor(entry.color);
         entry.box.setLocked(true);
@@ -225,29 +228,31 @@ void Frm_Advisor::design()
     }
 
     // The count, and the person of practice play.
-    place(Txt_Found, nullptr, 5010, 6420, 2100, 375, {}, "Holds a copy of the status field on the main window.");
+    place(Txt_Found, nullptr, 5010, 5580, 2100, 375, {}, "Holds a copy of the status field on the main window.");
     Txt_Found.setLocked(true);
-    place(Img_Backwards, nullptr, 7380, 6420, 360, 375, {}, "Previous person of practice play.");
-    place(Txt_Play_Person_Nr, nullptr, 7800, 6420, 900, 375, {}, "Person of practice play.");
-    place(Img_Forward, nullptr, 8760, 6420, 360, 375, {}, "Next person of practice play.");
+    place(Img_Backwards, nullptr, 7380, 5580, 360, 375, {}, "Previous person of practice play.");
+    place(Txt_Play_Person_Nr, nullptr, 7800, 5580, 900, 375, {}, "Person of practice play.");
+    place(Img_Forward, nullptr, 8760, 5580, 360, 375, {}, "Next person of practice play.");
     for (Control* c : std::initializer_list<Control*>{&Img_Backwards, &Txt_Play_Person_Nr, &Img_Forward})
         c->setVisible(false);
 
     // The guide, and the buttons.
-    place(Txt_GuideMe, nullptr, 120, 7320, 9690, 1140, {},
+    place(Txt_GuideMe, nullptr, 120, 6480, 9690, 1140, {},
         "This window lists the steps you should follow to get the most valid matches.");
     Txt_GuideMe.setMultiLine(true);
     Txt_GuideMe.setLocked(true);
-    place(Cmd_Search, nullptr, 120, 8580, 1500, 420, "&SEARCH", "Search again with what the wizard shows.");
-    place(Cmd_Print, nullptr, 1740, 8580, 1500, 420, "&Print List", "Print the list and the prescription.");
-    place(Cmd_Help, nullptr, 3360, 8580, 1500, 420, "&Help?", "Show or hide the help beside the wizard.");
-    place(Cmd_Exit, nullptr, 8310, 8580, 1500, 420, "E&xit Wizard", "Back to the main window.");
+    place(Cmd_Search, nullptr, 120, 7740, 1500, 420, "&SEARCH", "Search again with what the wizard shows.");
+    place(Cmd_Print, nullptr, 1740, 7740, 1500, 420, "&Print List", "Print the list and the prescription.");
+    place(Cmd_Help, nullptr, 3360, 7740, 1500, 420, "&Help?", "Show or hide the help beside the wizard.");
+    place(Cmd_Exit, nullptr, 8310, 7740, 1500, 420, "E&xit Wizard", "Back to the main window.");
 
     // Beyond the narrow width: shown when the form is widened.
-    place(Txt_Help, nullptr, NarrowWidth + 60, 120, WideWidth - NarrowWidth - 300, 8880);
+    place(Txt_Help, nullptr, NarrowWidth + 60, 120, WideWidth - NarrowWidth - 300, 8040);
     Txt_Help.setText(HelpText);
     Txt_Help.setMultiLine(true);
     Txt_Help.setLocked(true);
+    // Beyond the narrow width the caret must not wander off the screen.
+    Txt_Help.setTabStop(false);
 }
 
 }  // namespace vistrel

@@ -67,6 +67,7 @@ public:
     // Selects without the click handler: for the one place where a screen
     // marks an option of another screen and must not run its handler.
     void selectQuietly();
+    const OptionGroup& group() const { return *group_; }
 
     void click() override;
 

@@ -1,0 +1,279 @@
+// The wizard in its window, worked with the keyboard alone, and the advice
+// beside the result list. Runs at the designed size and, with VISTREL_SCALE
+// set, at a larger one.
+
+#include "FormWindow.h"
+#include "QtPlatform.h"
+#include "StationWindows.h"
+
+#include "core/Frm_ProgramOptions.h"
+#include "core/Frm_Vistrel.h"
+#include "core/Station.h"
+#include "wizard/Frm_Advisor.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+using namespace vistrel;
+
+namespace {
+
+// Pairs for a left eye of -3.00 -2.00 x 90: the first cut-back steps find
+// more of them than the measurement itself.
+const char* const Inventory =
+    "1,-3.25,-1.50,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n"
+    "2,-3.50,-1.25,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n"
+    "3,-3.00,-2.00,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n";
+
+void writeFile(const QString& path, const QByteArray& text)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+double scale()
+{
+    bool ok = false;
+    const double s = qEnvironmentVariable("VISTREL_SCALE").toDouble(&ok);
+    return ok && s > 0 ? s : 1.0;
+}
+
+// Works the wizard, once it is up and has the keyboard, with what the test
+// gives it; closes it otherwise.
+class Volunteer : public qt::DialogWatcher {
+public:
+    std::function<void(Form&, QWidget*)> work;
+
+    void messageShown(QMessageBox& box) override
+    {
+        QTimer::singleShot(0, &box, [&box] { box.accept(); });
+    }
+    void modalShown(Form& form, QWidget* window) override
+    {
+        auto act = std::exchange(work, nullptr);
+        QTimer::singleShot(0, window, [act, &form, window] {
+            window->activateWindow();
+            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
+            if (act)
+                act(form, window);
+            if (form.visible())
+                form.closeBox();
+        });
+    }
+};
+
+void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
+}
+
+bool tabTo(QWidget* target)
+{
+    for (int i = 0; i < 200 && QApplication::focusWidget() != target; ++i)
+        key(Qt::Key_Tab);
+    return QApplication::focusWidget() == target;
+}
+
+// The whole of a wrapped text fits the box it is shown in.
+bool showsWholly(QPlainTextEdit* edit)
+{
+    const QFontMetrics metrics(edit->font());
+    const QRect needed = metrics.boundingRect(edit->viewport()->rect().adjusted(4, 0, -4, 0),
+        Qt::TextWordWrap, edit->toPlainText());
+    return needed.height() <= edit->viewport()->height();
+}
+
+bool showsWholly(QLabel* label)
+{
+    return label->heightForWidth(label->width()) <= label->height();
+}
+
+}  // namespace
+
+class WizardWindowTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folders_;
+    std::unique_ptr<qt::QtPlatform> platform_;
+    std::unique_ptr<Station> station_;
+    std::unique_ptr<qt::StationWindows> windows_;
+    Volunteer volunteer_;
+
+    Frm_Vistrel& main() { return station_->vistrel(); }
+    Frm_Advisor& wizard() { return station_->advisor(); }
+    qt::FormWindow& mainWindow() { return windows_->main(); }
+    QWidget* mainWidget(const Control& c) { return mainWindow().widgetFor(c); }
+
+    // A measurement typed on the main screen, marked as typed, and searched.
+    void measure(const char* sphereLeft, const char* cylinderLeft, const char* axisLeft, const char* sphereRight,
+        const char* age)
+    {
+        main().Cmd_CalculateDataClear.click();
+        main().Txt_Age.setText(age);
+        main().Txt_Sphere_Left.setText(sphereLeft);
+        main().Txt_Cylinder_Left.setText(cylinderLeft);
+        main().Txt_Axis_Left.setText(axisLeft);
+        main().Txt_Sphere_Right.setText(sphereRight);
+        main().Max_Sphere_OverageValue = "0.25";
+        main().Max_Cylinder_OverageValue = "0.25";
+        main().Chk_AutoBypass.setValue(1);
+        main().Cmd_Search.click();
+    }
+
+private slots:
+    void initTestCase()
+    {
+        const QString documents = folders_.filePath(QStringLiteral("documents"));
+        const QString shared = folders_.filePath(QStringLiteral("shared"));
+        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
+        qputenv("VISTREL_SHARED", shared.toUtf8());
+        qputenv("VISTREL_COM1", "/nonexistent/vistrel-line");
+        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
+            "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
+            "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
+            "32000\r\n");
+        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"), Inventory);
+
+        platform_ = std::make_unique<qt::QtPlatform>();
+        station_ = std::make_unique<Station>(*platform_);
+        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(scale(), 96.0));
+        platform_->setWindows(windows_.get());
+        platform_->setDialogWatcher(&volunteer_);
+        mainWindow().window()->show();
+        station_->start();
+        QVERIFY(QTest::qWaitForWindowActive(mainWindow().window()));
+        station_->options().Chk_NoOverplus.setValue(0);
+        station_->options().Chk_NoOverCylinder.setValue(0);
+        station_->options().Chk_NoOverMinus.setValue(0);
+    }
+
+    void cleanupTestCase()
+    {
+        windows_.reset();
+        station_.reset();
+        platform_.reset();
+        qunsetenv("VISTREL_COM1");
+    }
+
+    // ---- the advice on the main window ----
+    void theAdviceStandsBesideTheResultListWhole()
+    {
+        // A young person with a lazy-looking eye and little found: a long advice.
+        measure("-0.75", "-0.50", "180", "-6.00", "15");
+        QVERIFY(main().Lbl_Recommendation.visible());
+        auto* advice = qobject_cast<QLabel*>(mainWidget(main().Lbl_Recommendation));
+        QVERIFY(advice && advice->isVisible());
+        QCOMPARE(advice->text(), QString::fromStdString(main().Lbl_Recommendation.caption()));
+        QVERIFY2(showsWholly(advice), qPrintable(advice->text()));
+
+        // It covers neither the result list nor the stock lists.
+        const QRect adviceArea(advice->mapTo(mainWindow().window(), QPoint()), advice->size());
+        for (const Control* list : {static_cast<const Control*>(&main().Lst_LeftSelection),
+                 static_cast<const Control*>(&main().Lst_LeftInventory),
+                 static_cast<const Control*>(&main().Lst_RightInventory)}) {
+            QWidget* w = mainWidget(*list);
+            const QRect area(w->mapTo(mainWindow().window(), QPoint()), w->size());
+            QVERIFY2(!adviceArea.intersects(area), list->name().c_str());
+        }
+    }
+
+    // ---- the wizard, by keys alone ----
+    void theWizardIsWorkedWithTheKeyboard()
+    {
+        measure("-3.00", "-2.00", "90", "-1.00", "30");
+        QCOMPARE(main().FoundCount, 1);
+        qt::FormWindow* window = windows_->windowFor(wizard());
+        auto* caseThree = window->widgetFor(wizard().Chk_Case3_Left);
+        auto* guide = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_GuideMe));
+        auto* help = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_Help));
+        bool worked = false;
+        volunteer_.work = [&](Form&, QWidget* dialog) {
+            QVERIFY(wizard().Showing);
+            QVERIFY(dialog->isAncestorOf(QApplication::focusWidget()));
+
+            // The guide is there to be read in full, at a size to be read.
+            QVERIFY(guide->isVisible());
+            QVERIFY(!guide->toPlainText().isEmpty());
+            QVERIFY2(showsWholly(guide), qPrintable(guide->toPlainText()));
+            QVERIFY(QFontInfo(guide->font()).pixelSize() >= 10 * scale());
+
+            // Tab to case 3 and check it with Space: the eye ends cut back.
+            QVERIFY(caseThree->isVisible());
+            QVERIFY(tabTo(caseThree));
+            key(Qt::Key_Space);
+            QCOMPARE(wizard().Chk_Case3_Left.value(), 1);
+            QCOMPARE(main().Txt_Cylinder_Left.text(), std::string("-1.75"));
+            QCOMPARE(main().FoundCount, 2);
+            QVERIFY(wizard().WizardLeftDone);
+
+            // Alt+H widens the wizard to its help, which is shown in full.
+            const int narrow = dialog->width();
+            QVERIFY(help->geometry().left() >= narrow);
+            key(Qt::Key_H, Qt::AltModifier);
+            QTRY_VERIFY(dialog->width() > narrow);
+            QVERIFY(help->isVisible());
+            QVERIFY(help->geometry().right() < dialog->width());
+            QVERIFY2(showsWholly(help), "the help text is cut");
+            key(Qt::Key_N, Qt::AltModifier);
+            QTRY_COMPARE(dialog->width(), narrow);
+
+            // Space again takes the case back to the measurement.
+            QVERIFY(tabTo(caseThree));
+            key(Qt::Key_Space);
+            QCOMPARE(main().Txt_Cylinder_Left.text(), std::string("-2.00"));
+
+            // A multiplier by arrow keys: the caret moves within the eye's options.
+            auto* times1 = window->widgetFor(wizard().Opt_Left1);
+            QVERIFY(tabTo(times1));
+            key(Qt::Key_Right);
+            QTRY_COMPARE(main().LeftToleranceMultiplier, 1.5);
+
+            // Alt+X leaves.
+            key(Qt::Key_X, Qt::AltModifier);
+            QTRY_VERIFY(!wizard().visible());
+            worked = true;
+        };
+        QWidget* button = mainWidget(main().Cmd_RunAdvisor);
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Space);
+        QVERIFY(worked);
+        QVERIFY(!wizard().Showing);
+        QCOMPARE(main().LeftToleranceMultiplier, 1.5);
+        // The caret is back on the main window.
+        QTRY_VERIFY(mainWindow().window()->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    // ---- every case box says all it says ----
+    void theCaseCaptionsAreShownWhole()
+    {
+        qt::FormWindow* window = windows_->windowFor(wizard());
+        for (const CheckBox* box : {&wizard().Chk_Case1_Left, &wizard().Chk_Case2_Left, &wizard().Chk_Case3_Left,
+                 &wizard().Chk_Case4_Left, &wizard().Chk_Case5_Still_no_match, &wizard().Chk_Case6_Desperate,
+                 &wizard().Chk_VarnOverCylinder50}) {
+            auto* check = qobject_cast<QCheckBox*>(window->widgetFor(*box));
+            QVERIFY(check);
+            QStyleOptionButton option;
+            option.initFrom(check);
+            option.text = check->text();
+            const QRect area = check->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, check);
+            const QFontMetrics metrics = check->fontMetrics();
+            const QString words = check->text().simplified().replace(QStringLiteral("&&"), QStringLiteral("&"));
+            const QRect needed = metrics.boundingRect(QRect(0, 0, area.width(), 10000), Qt::TextWordWrap, words);
+            QVERIFY2(needed.height() <= check->height(), box->name().c_str());
+        }
+    }
+};
+
+QTEST_MAIN(WizardWindowTest)
+#include "WizardWindowTest.moc"
