@@ -570,6 +570,9 @@ public:
     // ---- The wizard (src/wizard) ----
     void Cmd_RunAdvisor_Click();
 
+    // ---- The slip (src/reports) ----
+    void Cmd_PrintList_Click();
+
     // ---- Reversal of the screen ----
     void TabIndexleft();
     void TabIndexRight();

@@ -6,6 +6,8 @@ Frm_HelpVarnRule::Frm_HelpVarnRule(Station& station) : Screen(station, "Frm_Help
 {
     design();
     Cmd_Exit.onClick = [this] { Cmd_Exit_Click(); };
+    Cmd_PrintRules.onClick = [this] { Cmd_PrintRules_Click(); };
+    op("Cmd_PrintRules_Click", Cmd_PrintRules.onClick);
     onCloseBox = [this] { Cmd_Exit_Click(); };
     var("Showing", Showing);
     op("Cmd_Exit_Click", [this] { Cmd_Exit_Click(); });

@@ -21,6 +21,8 @@ public:
 
     static const std::vector<std::string>& RuleLines();
     void Cmd_Exit_Click();
+    // Prints the rules on the slip's printer (src/reports).
+    void Cmd_PrintRules_Click();
 
 private:
     void design();

@@ -195,12 +195,10 @@ void Frm_Advisor::Cmd_Help_Click()
     }
 }
 
-// The main screen's print of the list; reached by name, so the wizard
-// builds before the slip does, and prints once it is there.
+// The main screen's slip: the list and the prescription.
 void Frm_Advisor::Cmd_Print_Click()
 {
-    if (const std::function<void()>* print = vistrel().operation("Cmd_PrintList_Click"); print && *print)
-        (*print)();
+    vistrel().Cmd_PrintList_Click();
 }
 
 // Practice play steps the person on the main screen, then the wizard
