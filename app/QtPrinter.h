@@ -1,24 +1,25 @@
 #pragma once
 
+#include "SlipDocument.h"
+
 #include "platform/Printer.h"
 
-#include <QFont>
 #include <QString>
 
-#include <memory>
+#include <functional>
 
-class QPainter;
-class QPrinter;
+class QWidget;
 
 namespace vistrel::qt {
 
-// The printer as running text: each print goes on from where the last one
-// ended, a finished line moves down by the font's line spacing, and a full
-// page starts the next. The document starts with the first print and goes
-// to the printer at endDoc. With VISTREL_PRINT_PDF set, the document is
-// written to that PDF file instead.
+// The printer as running text. What the station prints is kept as a
+// document and, at endDoc, sent where this job goes: to the chosen (or the
+// default) printer, into a print preview, or into a PDF file. With
+// VISTREL_PRINT_PDF set, every job is written to that PDF file.
 class QtPrinter : public Printer {
 public:
+    enum class Destination { Printer, Preview, Pdf };
+
     QtPrinter();
     ~QtPrinter() override;
 
@@ -32,19 +33,34 @@ public:
     bool choose(const std::string& name) override;
 
     const QString& chosenPrinter() const { return chosen_; }
-    bool printing() const;
+
+    // The next job (only that one) goes to a preview over parent, or into
+    // the PDF file at path.
+    void previewNextJob(QWidget* parent);
+    void saveNextJobAsPdf(const QString& path);
+
+    // Told when a job finds no printer to go to; the window says so.
+    std::function<void(const QString& message)> onNoPrinter;
+    // Told when a job has gone somewhere: the printer's name, "preview" or
+    // the PDF's path.
+    std::function<void(const QString& where)> onPrinted;
+
+    // Renders a document into a PDF file; false when it can't be written.
+    static bool writePdf(const SlipDocument& document, const QString& path);
 
 private:
-    bool begin();
-    QFont currentFont() const;
+    void sendToPrinter();
+    void showPreview();
 
     QString chosen_;
-    QFont font_;
-    std::unique_ptr<QPrinter> printer_;
-    std::unique_ptr<QPainter> painter_;
-    bool failed_ = false;  // this document could not be started
-    double x_ = 0;
-    double y_ = 0;
+    QString fontName_ = QStringLiteral("MS Sans Serif");
+    double fontSize_ = 8.25;
+    bool bold_ = false;
+    bool underline_ = false;
+    SlipDocument document_;
+    Destination destination_ = Destination::Printer;
+    QWidget* previewParent_ = nullptr;
+    QString pdfPath_;
 };
 
 }  // namespace vistrel::qt

@@ -28,6 +28,8 @@
 #include "Metrics.h"
 #include "QtPlatform.h"
 #include "ScaledStyle.h"
+#include "SlipActions.h"
+#include "TextConversion.h"
 #include "Screenshot.h"
 #include "SerialPorts.h"
 #include "StationWindows.h"
@@ -177,6 +179,14 @@ int main(int argc, char** argv)
     vistrel::Form& mainForm = station.vistrel();
     vistrel::qt::StationWindows windows(station.forms(), mainForm, metrics);
     platform.setWindows(&windows);
+    auto& printer = static_cast<vistrel::qt::QtPrinter&>(platform.printer());
+    // The station itself never speaks of its printer; the window does.
+    printer.onNoPrinter = [&platform](const QString& message) {
+        platform.messageBox("Slip not printed", vistrel::qt::toCoreLines(message), vistrel::MsgIcon::Exclamation);
+    };
+    const vistrel::qt::MenuBinding* fileMenu = windows.main().menus().bindingFor(station.vistrel().GenerateFileReports);
+    vistrel::qt::SlipActions slipActions(
+        station.vistrel(), printer, fileMenu ? fileMenu->dropDown() : nullptr, windows.main().window());
 
     std::unique_ptr<vistrel::qt::Screenshot> screenshot;
     if (!options.screenshot.isEmpty()) {
