@@ -92,6 +92,15 @@ QtPlatform::QtPlatform(QStringList arguments) : arguments_(std::move(arguments))
         QProcess::startDetached(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
 #endif
     };
+    startScript = [](const QString& file) {
+        const QString folder = QFileInfo(file).absolutePath();
+#ifdef Q_OS_WIN
+        QProcess::startDetached(
+            QStringLiteral("cmd.exe"), {QStringLiteral("/c"), QDir::toNativeSeparators(file)}, folder);
+#else
+        QProcess::startDetached(file, {}, folder);
+#endif
+    };
 }
 
 QtPlatform::~QtPlatform() = default;
@@ -171,6 +180,11 @@ void QtPlatform::shell(const std::string& what)
         openDocument(request.document);
     else if (!request.command.isEmpty())
         startProgram(request.command);
+}
+
+void QtPlatform::runScript(const std::string& path)
+{
+    startScript(fromCore(nativePath(path)));
 }
 
 DateTime QtPlatform::now()

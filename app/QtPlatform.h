@@ -52,6 +52,7 @@ public:
     Printer& printer() override { return printer_; }
     std::vector<std::string> printerNames() override;
     void shell(const std::string& what) override;
+    void runScript(const std::string& path) override;
     DateTime now() override;
 
     std::string documentsFolder() override;
@@ -67,6 +68,9 @@ public:
     // Starts a program or opens a document; separate so tests can watch it.
     std::function<void(const QString& file)> openDocument;
     std::function<void(const QString& command)> startProgram;
+    // Starts a script file in its folder: through cmd on Windows, as the
+    // program itself elsewhere.
+    std::function<void(const QString& file)> startScript;
 
 private:
     QWidget* activeWindow() const;

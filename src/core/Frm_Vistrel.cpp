@@ -69,6 +69,15 @@ void Frm_Vistrel::wireHandlers()
     // Menu bar.
     click(SetOptions, "SetOptions_Click", [this] { SetOptions_Click(); });
     click(ExitProgram, "ExitProgram_Click", [this] { ExitProgram_Click(); });
+    click(DeletedReport, "DeletedReport_Click", [this] { DeletedReport_Click(); });
+    click(RejectedReport, "RejectedReport_Click", [this] { RejectedReport_Click(); });
+    click(VacantLocationsReport, "VacantLocationsReport_Click", [this] { VacantLocationsReport_Click(); });
+    click(DisplayNoMatchMeasurements, "DisplayNoMatchMeasurements_Click",
+        [this] { DisplayNoMatchMeasurements_Click(); });
+    click(SaveDeletedRejectedInventory, "SaveDeletedRejectedInventory_Click",
+        [this] { SaveDeletedRejectedInventory_Click(); });
+    click(SaveUNMatchedMeasurementsFile, "SaveUNMatchedMeasurementsFile_Click",
+        [this] { SaveUNMatchedMeasurementsFile_Click(); });
     onCloseBox = [this] { ExitProgram_Click(); };
     onLoad = [this] { Form_Load(); };
     op("Form_Load", [this] { Form_Load(); });

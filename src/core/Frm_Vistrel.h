@@ -573,6 +573,14 @@ public:
     // ---- The slip (src/reports) ----
     void Cmd_PrintList_Click();
 
+    // ---- File reports (src/reports) ----
+    void DeletedReport_Click();
+    void RejectedReport_Click();
+    void VacantLocationsReport_Click();
+    void DisplayNoMatchMeasurements_Click();
+    void SaveDeletedRejectedInventory_Click();
+    void SaveUNMatchedMeasurementsFile_Click();
+
     // ---- Reversal of the screen ----
     void TabIndexleft();
     void TabIndexRight();

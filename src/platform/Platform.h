@@ -31,6 +31,11 @@ public:
     virtual std::vector<std::string> printerNames() = 0;
     // Starts a program or opens a document, without waiting.
     virtual void shell(const std::string& what) = 0;
+    // Starts a script file that a site placed beside the station's files
+    // (a batch file on Windows, an executable file elsewhere) in its own
+    // folder, without waiting; one that can't be started is let be. Where
+    // shell() runs what it is given, that is all it takes.
+    virtual void runScript(const std::string& path) { shell(path); }
     virtual DateTime now() = 0;
 
     // The user's documents folder, the folder shared by all users of the

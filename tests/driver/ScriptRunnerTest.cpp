@@ -349,6 +349,15 @@ TEST_F(ScriptRunnerTest, TheOutsideWorldIsReportedAsEscapedLines)
         "SerialOut: \\x02D\\r\n");
 
     EXPECT_EQ(platform.nativePath("C:\\NetworkJournal\\a.txt"), "/shared/drive_c/NetworkJournal/a.txt");
+
+    // The run's folders differ between machines; the lines name them.
+    platform.messageBox("Saved", "in /docs/Vistrel and /shared/x, /docs/Vistrel again", MsgIcon::Information);
+    platform.shell("Notepad.exe /docs/Vistrel/Total_Inventory_Report.txt");
+    platform.runScript("/docs/Vistrel/MoveDeletedInventory.sh");
+    EXPECT_EQ(printed(),
+        "MsgBox: Saved | in <documents>/Vistrel and <shared>/x, <documents>/Vistrel again\n"
+        "Shell: Notepad.exe <documents>/Vistrel/Total_Inventory_Report.txt\n"
+        "Shell: <documents>/Vistrel/MoveDeletedInventory.sh\n");
     EXPECT_EQ(platform.printerNames(), std::vector<std::string>{"Default"});
     EXPECT_EQ(platform.now().year, 2026);
 }

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <string_view>
+#include <utility>
 
 namespace vistrel::script {
 
@@ -19,7 +21,7 @@ ScriptPlatform::ScriptPlatform(Output& out, PlatformSettings settings)
 
 void ScriptPlatform::messageBox(const std::string& title, const std::string& text, MsgIcon)
 {
-    out_->line("MsgBox: " + escapeValue(title) + " | " + escapeValue(text));
+    out_->line("MsgBox: " + escapeValue(title) + " | " + escapeValue(withFolderNames(text)));
 }
 
 void ScriptPlatform::runModal(Form& form)
@@ -57,7 +59,23 @@ void ScriptPlatform::queueStay(Form& form)
 
 void ScriptPlatform::shell(const std::string& what)
 {
-    out_->line("Shell: " + escapeValue(what));
+    out_->line("Shell: " + escapeValue(withFolderNames(what)));
+}
+
+// A path of the run differs from one machine to the next; the output shows
+// the documents and shared folders as <documents> and <shared>.
+std::string ScriptPlatform::withFolderNames(std::string text) const
+{
+    const std::pair<const std::string*, const char*> folders[] = {
+        {&settings_.documentsFolder, "<documents>"}, {&settings_.sharedFolder, "<shared>"}};
+    for (const auto& [folder, name] : folders) {
+        if (folder->empty())
+            continue;
+        const std::string_view shown(name);
+        for (size_t at = text.find(*folder); at != std::string::npos; at = text.find(*folder, at + shown.size()))
+            text.replace(at, folder->size(), shown);
+    }
+    return text;
 }
 
 DateTime ScriptPlatform::now()

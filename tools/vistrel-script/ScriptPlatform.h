@@ -68,6 +68,8 @@ public:
     void setExitHook(std::function<void()> hook) { exitHook_ = std::move(hook); }
 
 private:
+    std::string withFolderNames(std::string text) const;
+
     Output* out_;
     PlatformSettings settings_;
     ScriptSerialPort serial_;

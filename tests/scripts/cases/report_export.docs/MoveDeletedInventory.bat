@@ -1,0 +1,2 @@
+@echo off
+rem A site moves the export away here.
