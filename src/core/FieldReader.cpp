@@ -1,5 +1,8 @@
 #include "FieldReader.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace vistrel {
 
 namespace {
@@ -30,9 +33,14 @@ bool FieldReader::open(const std::string& path)
 {
     close();
     file_ = std::fopen(path.c_str(), "rb");
-    pos_ = len_ = 0;
-    afterComma_ = false;
     return file_ != nullptr;
+}
+
+void FieldReader::openText(std::string_view text)
+{
+    close();
+    text_ = text;
+    fromText_ = true;
 }
 
 void FieldReader::close()
@@ -40,15 +48,23 @@ void FieldReader::close()
     if (file_)
         std::fclose(file_);
     file_ = nullptr;
-    pos_ = len_ = 0;
+    text_ = {};
+    fromText_ = false;
+    afterComma_ = false;
+    pos_ = len_ = passed_ = fieldStart_ = 0;
 }
 
 bool FieldReader::fill()
 {
-    if (!file_)
-        return false;
-    len_ = std::fread(buffer_, 1, sizeof buffer_, file_);
-    pos_ = 0;
+    passed_ += len_;
+    pos_ = len_ = 0;
+    if (file_) {
+        len_ = std::fread(buffer_, 1, sizeof buffer_, file_);
+    } else if (!text_.empty()) {
+        len_ = std::min(text_.size(), sizeof buffer_);
+        std::memcpy(buffer_, text_.data(), len_);
+        text_.remove_prefix(len_);
+    }
     return len_ > 0;
 }
 
@@ -107,6 +123,7 @@ std::string FieldReader::next()
 {
     std::string field;
     const int c = skipToField();
+    fieldStart_ = passed_ + pos_;
     afterComma_ = false;
     if (c == EOF)
         return field;

@@ -9,6 +9,7 @@
 #include "core/Text.h"
 #include "inventory/Frm_LensFrames.h"
 #include "inventory/Frm_ReadingGlasses.h"
+#include "inventory/InventoryRecordKind.h"
 #include "inventory/StockCells.h"
 #include "platform/Platform.h"
 
@@ -32,25 +33,6 @@ bool deviceNotReady(const std::string& path)
         || errno == ENOMEDIUM
 #endif
         ;
-}
-
-enum class RecordKind { Reading, Lens, LensChild, Frames, FramesChild, Pair };
-
-// The kind of a record by its first field folded to upper case; anything
-// that is no keyword begins a pair.
-RecordKind recordKind(const std::string& first)
-{
-    if (UCaseEquals(first, "READING"))
-        return RecordKind::Reading;
-    if (UCaseEquals(first, "LENS"))
-        return RecordKind::Lens;
-    if (UCaseEquals(first, "LENSCHILD"))
-        return RecordKind::LensChild;
-    if (UCaseEquals(first, "FRAMES"))
-        return RecordKind::Frames;
-    if (UCaseEquals(first, "FRAMESCHILD"))
-        return RecordKind::FramesChild;
-    return RecordKind::Pair;
 }
 
 }  // namespace
@@ -100,8 +82,8 @@ void Frm_Vistrel::Get_Readings()
         EOF_Found = false;
         const std::string first = Get_Record(handle);
         const auto row = static_cast<size_t>(i - 1);
-        const RecordKind kind = recordKind(first);
-        if (kind == RecordKind::Reading) {
+        const InventoryRecordKind kind = InventoryRecordKindOf(first);
+        if (kind == InventoryRecordKind::Reading) {
             if (const int r = ReadingCellOf(Get_Record(handle)); r >= 0)
                 readingCell = r;
             TextBox& cell = reading.Txt_NNN[readingCell];
@@ -109,8 +91,8 @@ void Frm_Vistrel::Get_Readings()
             if (auto sum = ToInteger(ReadingGlassesTotal + Val(cell.text())))
                 ReadingGlassesTotal = *sum;
             reading.Txt_Total.setText(Format(ReadingGlassesTotal, "000"));
-        } else if (kind == RecordKind::Lens || kind == RecordKind::LensChild) {
-            lensGrid = kind == RecordKind::Lens ? 0 : 1;
+        } else if (kind == InventoryRecordKind::Lens || kind == InventoryRecordKind::LensChild) {
+            lensGrid = kind == InventoryRecordKind::Lens ? 0 : 1;
             const std::string sphere = FormatText(Get_Record(handle), "0.00");
             if (const int r = LensRowOf(sphere); r >= 0) {
                 lensRowAt = r;
@@ -123,10 +105,10 @@ void Frm_Vistrel::Get_Readings()
             const std::string quantity = FormatText(Get_Record(handle), "000");
             if (lensRowAt >= 1 && lensColumnAt >= 1)
                 lens.MSF_LensInventory(lensGrid).setTextMatrix(lensRowAt, lensColumnAt, quantity);
-        } else if (kind == RecordKind::Frames || kind == RecordKind::FramesChild) {
+        } else if (kind == InventoryRecordKind::Frames || kind == InventoryRecordKind::FramesChild) {
             // With a size not in the list the quantity becomes the next
             // record's first field.
-            if (TextBox* box = FrameBoxOf(lens, kind == RecordKind::FramesChild, Get_Record(handle)))
+            if (TextBox* box = FrameBoxOf(lens, kind == InventoryRecordKind::FramesChild, Get_Record(handle)))
                 box->setText(FormatText(Get_Record(handle), "000"));
         } else {
             if (auto number = ToInteger(Val(first)))

@@ -92,17 +92,25 @@ std::string LensCylinderText(int column)
     return column >= 1 && column <= 13 ? lensCylinders()[static_cast<size_t>(column - 1)] : std::string();
 }
 
+int FrameSizeOf(bool child, const std::string& size)
+{
+    static const std::array<std::string, 3> adult{"65", "67", "70"};
+    static const std::array<std::string, 3> young{"57", "61", "65"};
+    return indexOf(child ? young : adult, size);
+}
+
 TextBox* FrameBoxOf(Frm_LensFrames& screen, bool child, const std::string& size)
 {
-    if (!child)
-        return size == "65" ? &screen.Txt_FrameAdult65
-            : size == "67"  ? &screen.Txt_FrameAdult67
-            : size == "70"  ? &screen.Txt_FrameAdult70
-                            : nullptr;
-    return size == "57" ? &screen.Txt_FrameChild57
-        : size == "61"  ? &screen.Txt_FrameChild61
-        : size == "65"  ? &screen.Txt_FrameChild65
-                        : nullptr;
+    switch (FrameSizeOf(child, size)) {
+    case 0:
+        return child ? &screen.Txt_FrameChild57 : &screen.Txt_FrameAdult65;
+    case 1:
+        return child ? &screen.Txt_FrameChild61 : &screen.Txt_FrameAdult67;
+    case 2:
+        return child ? &screen.Txt_FrameChild65 : &screen.Txt_FrameAdult70;
+    default:
+        return nullptr;
+    }
 }
 
 }  // namespace vistrel

@@ -26,8 +26,10 @@ int LensColumnOf(const std::string& cylinder);
 std::string LensSphereText(int grid, int row);
 std::string LensCylinderText(int column);
 
-// The frame box of a size ("65", "67", "70" adult; "57", "61", "65" child),
-// or none.
+// Frame sizes, exact texts: "65", "67", "70" adult and "57", "61", "65"
+// child are 0 to 2.
+int FrameSizeOf(bool child, const std::string& size);
+// The frame box of a size, or none.
 TextBox* FrameBoxOf(Frm_LensFrames& screen, bool child, const std::string& size);
 
 }  // namespace vistrel
