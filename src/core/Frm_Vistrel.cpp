@@ -173,6 +173,8 @@ void Frm_Vistrel::wireHandlers()
     click(Cmd_CalculateDataClear, "Cmd_CalculateDataClear_Click", [this] { Cmd_CalculateDataClear_Click(); });
     click(Cmd_RunAdvisor, "Cmd_RunAdvisor_Click", [this] { Cmd_RunAdvisor_Click(); });
     click(Cmd_PrintList, "Cmd_PrintList_Click", [this] { Cmd_PrintList_Click(); });
+    click(Cmd_Flip, "Cmd_Flip_Click", [this] { Cmd_Flip_Click(); });
+    op("flipleft", [this] { flipleft(); });
     click(Cmd_SetAdd, "Cmd_SetAdd_Click", [this] { Cmd_SetAdd_Click(); });
     click(Cmd_Sizer, "Cmd_Sizer_Click", [this] { Cmd_Sizer_Click(); });
     click(Cmd_CloseProgram, "Cmd_CloseProgram_Click", [this] { Cmd_CloseProgram_Click(); });

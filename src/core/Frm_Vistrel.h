@@ -582,6 +582,10 @@ public:
     void SaveUNMatchedMeasurementsFile_Click();
 
     // ---- Reversal of the screen ----
+    void Cmd_Flip_Click();
+    void flipleft();
+    // The heading of the eyes' frame on the left-first screen.
+    static std::string LeftFirstHeading();
     void TabIndexleft();
     void TabIndexRight();
 

@@ -105,7 +105,7 @@ void Frm_Vistrel::design()
     Txt_RightCutBackCount.setLocked(true);
 
     // ---- Measurement entry: a block per eye, side by side ----
-    place(Frm_LeftRight, nullptr, 3480, 0, 8400, 4380, "Left                         Right");
+    place(Frm_LeftRight, nullptr, 3480, 0, 8400, 4380, LeftFirstHeading());
     struct EyeControls {
         Label& cover;
         Label& sphereLabel;
@@ -275,6 +275,7 @@ void Frm_Vistrel::design()
         "--------------------------------------->");
     place(Frm_Selection, nullptr, 60, 5160, 14160, 2640, "Items Available", "Results of inventory search.");
     place(Frm_LeftSelection, &Frm_Selection, 60, 210, 14040, 2370,
+        // Three blanks more than a turn back to left-first writes.
         "Left" + std::string(68, ' ') + "|  Right", "Left lens reading of glasses found.");
     struct Head {
         Label& label;
@@ -312,20 +313,19 @@ void Frm_Vistrel::design()
     Lbl_Recommendation.setVisible(false);
 
     // ---- Stock lists and persons ----
-    place(Frm_LeftInventory, nullptr, 60, 8310, 5100, 2100, "Left Inventory");
-    place(Lbl_LeftInventoryHeads, &Frm_LeftInventory, 90, 210, 4950, 210,
+    // Both stock lists are of one width: a turn of the screen swaps their places.
+    place(Frm_LeftInventory, nullptr, 60, 8310, 4890, 2100, "Left Inventory");
+    place(Lbl_LeftInventoryHeads, &Frm_LeftInventory, 90, 210, 4740, 210,
         "Nr.   SPH   CYL   Axis Add  (Pwr)     PD Rej",
         "Glasses Bag number, Left Sphere Power, Left Cylinder Astigmatism Power, Left Astigmatism Axis, "
         "Left Progressive/Bifocal Add, Number of times rejected");
-    place(Lst_LeftInventory, &Frm_LeftInventory, 60, 420, 4980, 1620, {}, "Click on a pair to remove or reject it.");
-    // The right list gives up a little width so that the person list's
-    // rows fit in theirs without a sideways scroll.
-    place(Frm_RightInventory, nullptr, 5220, 8310, 4680, 2100, "Right Inventory");
-    place(Lbl_RightInventoryHeads, &Frm_RightInventory, 90, 210, 4530, 210,
+    place(Lst_LeftInventory, &Frm_LeftInventory, 60, 420, 4770, 1620, {}, "Click on a pair to remove or reject it.");
+    place(Frm_RightInventory, nullptr, 5010, 8310, 4890, 2100, "Right Inventory");
+    place(Lbl_RightInventoryHeads, &Frm_RightInventory, 90, 210, 4740, 210,
         "Nr.   SPH   CYL   Axis Add  (Pwr)  (S R P B) G Comment",
         "Gender:  E=Either, F= Female, M=Male, C=Child.  Sunglasses Column (S/x=Yes/No), "
         "Reading Glasses Column (R/x=Yes/No), Progressive Lens Column (P/x=Yes/No), Bifocals Column (B/x=Yes/No)");
-    place(Lst_RightInventory, &Frm_RightInventory, 60, 420, 4560, 1620, {},
+    place(Lst_RightInventory, &Frm_RightInventory, 60, 420, 4770, 1620, {},
         "Click on a pair to remove or reject it.");
     Lbl_LeftInventoryHeads.setFont(kFixed);
     Lbl_RightInventoryHeads.setFont(kFixed);

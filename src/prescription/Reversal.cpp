@@ -1,10 +1,27 @@
-// The tab order of the twelve entry fields, left eye first or right eye first.
+// The screen turned for an operator who faces the person: the two eyes'
+// columns change places, with their buttons, captions and tab order. Each
+// field keeps its name and its content; only its place changes.
 
+#include "autorefractor/Frm_Autorefractor.h"
+#include "core/Frm_ProgramOptions.h"
 #include "core/Frm_Vistrel.h"
+#include "core/Text.h"
 
 namespace vistrel {
 
 namespace {
+
+// The heading of the eyes' frame and of the result list, left eye first or
+// right eye first.
+const std::string LeftRightHeading = "Left                         Right";
+const std::string RightLeftHeading = "Right                        Left";
+
+void swapLeft(Control& left, Control& right, std::int16_t& saved)
+{
+    saved = static_cast<std::int16_t>(left.left());
+    left.setLeft(right.left());
+    right.setLeft(saved);
+}
 
 void setOrder(const std::initializer_list<std::pair<TextBox*, int>>& order)
 {
@@ -15,6 +32,80 @@ void setOrder(const std::initializer_list<std::pair<TextBox*, int>>& order)
 }
 
 }  // namespace
+
+std::string Frm_Vistrel::LeftFirstHeading()
+{
+    return LeftRightHeading;
+}
+
+void Frm_Vistrel::Cmd_Flip_Click()
+{
+    FlipLeftFirst = !FlipLeftFirst;
+    const bool leftFirst = FlipLeftFirst;
+    Cmd_LeftCutBackSearch.setLeft(leftFirst ? 1110 : 5400);
+    Cmd_RightCutBackSearch.setLeft(leftFirst ? 5400 : 1110);
+    Cmd_LeftResetCutBack.setLeft(leftFirst ? 60 : 7200);
+    Cmd_RightResetCutBack.setLeft(leftFirst ? 7200 : 60);
+    Chk_NOEquivLeft.setLeft(leftFirst ? 2600 : 4560);
+    Chk_NOEquivRight.setLeft(leftFirst ? 4560 : 2600);
+    // The blanks place the words on the lines of the tall buttons.
+    Cmd_LeftResetCutBack.setCaption(leftFirst ? std::string(20, ' ') + "Left Lens" + std::string(8, ' ') + "Reset Cut-Back"
+                                              : std::string(33, ' ') + "Left Lens Reset Cut-Back");
+    Cmd_RightResetCutBack.setCaption(leftFirst
+            ? std::string(32, ' ') + "Right Lens Reset Cut-Back"
+            : std::string(19, ' ') + "Right Lens" + std::string(8, ' ') + "Reset Cut-Back");
+    Frm_LeftSelection.setCaption(
+        leftFirst ? "Left" + std::string(65, ' ') + "|  Right" : "Right" + std::string(62, ' ') + "|  Left");
+    Frm_LeftRight.setCaption(options().Chk_NOFocometer.value() == 1 ? std::string()
+            : leftFirst                                             ? LeftRightHeading
+                                                                    : RightLeftHeading);
+    flipleft();
+    // The level and the prescription line stand in each eye's column too;
+    // they go with it, so no number is read under the other eye's heading.
+    for (auto [left, right] : {std::pair<Control*, Control*>{&Lbl_Left_Amp, &Lbl_Right_Amp},
+             {&Txt_Left_AMP, &Txt_Right_AMP}, {&Lbl_Left_Prescription, &Lbl_Right_Prescription}}) {
+        std::int16_t held = 0;
+        swapLeft(*left, *right, held);
+    }
+    if (leftFirst)
+        TabIndexleft();
+    else
+        TabIndexRight();
+    // The lists are rebuilt in the new order when there is a prescription.
+    if (!LTrim(Txt_Sphere_Left.text()).empty() && !LTrim(Txt_Sphere_Right.text()).empty())
+        Search_Click();
+}
+
+// A swap of places is its own inverse: the same whichever way the turn goes.
+void Frm_Vistrel::flipleft()
+{
+    Frm_Autorefractor& capture = autorefractor();
+    swapLeft(capture.Frm_LettEyeAuto0, capture.Frm_LettEyeAuto1, SaveLeftPosition);
+    const std::pair<Control*, Control*> pairs[] = {
+        {&Frm_LeftInventory, &Frm_RightInventory},
+        {&Cmd_RestoreLeft, &Cmd_RestoreRight},
+        {&Chk_BlindLeft, &Chk_BlindRight},
+        {&Chk_DominantLeft, &Chk_DominantRight},
+        {&Txt_LeftConfidenceValue, &Txt_RightConfidenceValue},
+        {&Cmd_LeftConfidenceUP, &Cmd_RightConfidenceUP},
+        {&Cmd_LeftConfidenceDOWN, &Cmd_RightConfidenceDOWN},
+        {&Txt_Sphere_Left, &Txt_Sphere_Right},
+        {&Cmd_SphereLeftUp, &Cmd_SphereRightUp},
+        {&Cmd_SphereLeftDown, &Cmd_SphereRightDown},
+        {&Txt_Cylinder_Left, &Txt_Cylinder_Right},
+        {&Cmd_CylinderLeftUp, &Cmd_CylinderRightUp},
+        {&Cmd_CylinderLeftDown, &Cmd_CylinderRightDown},
+        {&Txt_Axis_Left, &Txt_Axis_Right},
+        {&Txt_LeftReadingPower, &Txt_RightReadingPower},
+        {&Txt_LeftAdd, &Txt_RightAdd},
+        {&Cmd_AddLeftUp, &Cmd_AddRightUp},
+        {&Cmd_AddLeftDown, &Cmd_AddRightDown},
+        {&Txt_Sphere_Equ_Left, &Txt_Sphere_Equ_Right},
+        {&Lbl_LeftCover, &Lbl_RightCover},
+    };
+    for (auto [left, right] : pairs)
+        swapLeft(*left, *right, SaveLeftPosition);
+}
 
 void Frm_Vistrel::TabIndexleft()
 {
