@@ -78,6 +78,8 @@ void Frm_Vistrel::wireHandlers()
         [this] { SaveDeletedRejectedInventory_Click(); });
     click(SaveUNMatchedMeasurementsFile, "SaveUNMatchedMeasurementsFile_Click",
         [this] { SaveUNMatchedMeasurementsFile_Click(); });
+    // Help and about (src/core/HelpMenu.cpp).
+    wireHelp();
     onCloseBox = [this] { ExitProgram_Click(); };
     onLoad = [this] { Form_Load(); };
     op("Form_Load", [this] { Form_Load(); });

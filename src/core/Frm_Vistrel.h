@@ -581,6 +581,19 @@ public:
     void SaveDeletedRejectedInventory_Click();
     void SaveUNMatchedMeasurementsFile_Click();
 
+    // ---- Help and about (src/core/Help*.cpp) ----
+    void HelpProgram_Click();
+    void HelpReportsDropdown_Click();
+    void HelpFileDropdown_Click();
+    void HelpPrescriptionModificationWizard_Click();
+    void TellAbout_Click();
+    void UpdateProgram_Click();
+    void Lbl_SearchDataEntryArea_Click();
+    // Opens a help document of the program's folder in the desktop's
+    // viewer; false, after a message box naming it, when it isn't there.
+    bool ShowHelpDocument(const std::string& fileName);
+    void wireHelp();
+
     // ---- Reversal of the screen ----
     void Cmd_Flip_Click();
     void flipleft();

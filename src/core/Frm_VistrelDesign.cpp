@@ -42,12 +42,6 @@ void Frm_Vistrel::design()
     UpdateProgram.setCaption("&Update Program");
     AutoRefractorDataCapture.setCaption("&Training: Show autorefractor Data Capture Window");
     ExitProgram.setCaption("&Exit");
-    // Entries whose work comes with a later part of the station stay disabled.
-    for (Menu* m : {&SaveDeletedRejectedInventory, &SaveUNMatchedMeasurementsFile, &DeletedReport,
-             &RejectedReport, &VacantLocationsReport, &DisplayNoMatchMeasurements, &HelpProgram,
-             &HelpReportsDropdown, &HelpFileDropdown, &HelpPrescriptionModificationWizard, &TellAbout,
-             &UpdateProgram})
-        m->setEnabled(false);
 
     // ---- Person ----
     place(Frm_Person, nullptr, 60, 0, 3360, 1740, "Person");

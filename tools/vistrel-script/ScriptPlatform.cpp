@@ -5,10 +5,12 @@
 #include "core/screen/Control.h"
 #include "core/screen/Form.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -63,11 +65,15 @@ void ScriptPlatform::shell(const std::string& what)
 }
 
 // A path of the run differs from one machine to the next; the output shows
-// the documents and shared folders as <documents> and <shared>.
+// the documents and shared folders and the program's own folder as
+// <documents>, <shared> and <program>. A folder inside another is named
+// first, so that the outer one doesn't swallow it.
 std::string ScriptPlatform::withFolderNames(std::string text) const
 {
-    const std::pair<const std::string*, const char*> folders[] = {
-        {&settings_.documentsFolder, "<documents>"}, {&settings_.sharedFolder, "<shared>"}};
+    std::pair<const std::string*, const char*> folders[] = {{&settings_.documentsFolder, "<documents>"},
+        {&settings_.sharedFolder, "<shared>"}, {&settings_.programFolder, "<program>"}};
+    std::stable_sort(std::begin(folders), std::end(folders),
+        [](const auto& a, const auto& b) { return a.first->size() > b.first->size(); });
     for (const auto& [folder, name] : folders) {
         if (folder->empty())
             continue;
