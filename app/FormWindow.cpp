@@ -189,6 +189,13 @@ void FormWindow::applyGeometry(bool place)
         if (auto* status = main->findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly); status && !status->isHidden())
             outer.rheight() += status->sizeHint().height();
     }
+    // A screen taller or wider than the desktop (the options with the
+    // autorefractor's part on a 1024x768 laptop, any screen drawn larger)
+    // fits it, and its content scrolls.
+    if (const QScreen* screen = (window_->parentWidget() ? window_->parentWidget()->window() : window_.data())->screen()) {
+        const QSize room = screen->availableGeometry().size() - QSize(16, 40);
+        outer = outer.boundedTo(room.expandedTo(QSize(320, 240)));
+    }
     // A window the person has made as large as the screen stays so.
     const bool personSized = window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
     if (window_->size() != outer && !personSized)

@@ -1,6 +1,7 @@
 // The wizard in its window, worked with the keyboard alone, and the advice
 // beside the result list. Runs at the designed size and, with VISTREL_SCALE
-// set, at a larger one.
+// set, at a larger one, on a desktop large enough for both (a smaller one
+// makes the windows scroll).
 
 #include "FormWindow.h"
 #include "QtPlatform.h"
