@@ -39,6 +39,27 @@ void ControlBinding::controlChanged(Control& /*control*/, Prop prop)
     apply(prop);
 }
 
+void ControlBinding::setExtraRoom(QSize extra)
+{
+    if (extra == extra_)
+        return;
+    extra_ = extra;
+    const Control::Stretch& s = control_->stretch();
+    if (s.moveX != 0 || s.moveY != 0 || s.growWidth != 0 || s.growHeight != 0)
+        widget_->setGeometry(placement());
+}
+
+QRect ControlBinding::placement() const
+{
+    QRect r = metrics_.rect(*control_);
+    const Control::Stretch& s = control_->stretch();
+    const auto share = [](double part, int room) { return static_cast<int>(part * room + 0.5); };
+    r.translate(share(s.moveX, extra_.width()), share(s.moveY, extra_.height()));
+    r.setWidth(r.width() + share(s.growWidth, extra_.width()));
+    r.setHeight(r.height() + share(s.growHeight, extra_.height()));
+    return r;
+}
+
 void ControlBinding::apply(Prop prop)
 {
     QWidget* w = widget_;
@@ -55,7 +76,7 @@ void ControlBinding::apply(Prop prop)
         w->setToolTip(toWidgetLines(control_->toolTipText()));
         break;
     case Prop::Geometry:
-        w->setGeometry(metrics_.rect(*control_));
+        w->setGeometry(placement());
         if (onLayoutChanged)
             onLayoutChanged();
         break;

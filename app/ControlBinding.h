@@ -38,6 +38,12 @@ public:
     // Told when the control is shown, hidden or moved, so the form refits.
     std::function<void()> onLayoutChanged;
 
+    // The room the window has beyond its designed size, in pixels: the
+    // control moves and grows by its shares of it.
+    void setExtraRoom(QSize extra);
+    // Where the widget stands: the designed place, stretched.
+    QRect placement() const;
+
 protected:
     // Kind-specific properties; the base handles the common ones.
     virtual void apply(Prop prop);
@@ -82,6 +88,7 @@ private:
     QPointer<QWidget> widget_;
     Metrics metrics_;
     int mirroring_ = 0;
+    QSize extra_;
     QObject* clickTarget_ = nullptr;
     bool forwardClick_ = false;
     bool forwardDblClick_ = false;

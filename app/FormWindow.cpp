@@ -101,6 +101,7 @@ FormWindow::FormWindow(Form& form, Kind kind, const Metrics& metrics, QWidget* p
     if (kind == Kind::MainWindow) {
         auto* main = new MainFormWindow(closeBox, parent);
         main->setCentralWidget(scroll_);
+        scroll_->viewport()->installEventFilter(this);
         menus_.build(form.controls(), main->menuBar());
         window_ = main;
     } else {
@@ -180,7 +181,9 @@ void FormWindow::applyGeometry(bool place)
         if (r.bottom() < client.height() + Slack)
             client.setHeight(std::max(client.height(), r.bottom() + 3));
     }
-    if (canvas_->size() != client)
+    designedClient_ = client;
+    const bool mainWindow = kind_ == Kind::MainWindow;
+    if (!mainWindow && canvas_->size() != client)
         canvas_->resize(client);
     QSize outer = client;
     if (auto* main = qobject_cast<QMainWindow*>(window_.data())) {
@@ -196,12 +199,45 @@ void FormWindow::applyGeometry(bool place)
         const QSize room = screen->availableGeometry().size() - QSize(16, 40);
         outer = outer.boundedTo(room.expandedTo(QSize(320, 240)));
     }
-    // A window the person has made as large as the screen stays so.
-    const bool personSized = window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
-    if (window_->size() != outer && !personSized)
-        window_->resize(outer);
+    if (mainWindow) {
+        // The designed size is the smallest; a person may make the window
+        // larger, and a new size set by the station (its "Home" button)
+        // brings the designed one back.
+        window_->setMinimumSize(outer);
+        const bool sizeRequested = form_.geometryRequests() != geometryRequestsSeen_;
+        geometryRequestsSeen_ = form_.geometryRequests();
+        if (sizeRequested) {
+            window_->setWindowState(window_->windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+            window_->resize(outer);
+        }
+        spreadIntoView();
+    } else {
+        // A window the person has made as large as the screen stays so.
+        const bool personSized = window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+        if (window_->size() != outer && !personSized)
+            window_->resize(outer);
+    }
     if (place && (form_.left() != 0 || form_.top() != 0))
         window_->move(onScreen(QPoint(metrics_.px(form_.left()), metrics_.px(form_.top()))));
+}
+
+void FormWindow::spreadIntoView()
+{
+    const QSize view = scroll_->viewport()->size();
+    const QSize canvas = designedClient_.expandedTo(view);
+    if (canvas_->size() != canvas)
+        canvas_->resize(canvas);
+    const QSize extra = canvas - designedClient_;
+    for (const auto& b : binder_.bindings())
+        b->setExtraRoom(extra);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == scroll_->viewport() && event->type() == QEvent::Resize && kind_ == Kind::MainWindow
+        && designedClient_.isValid())
+        spreadIntoView();
+    return QObject::eventFilter(watched, event);
 }
 
 QPoint FormWindow::onScreen(QPoint place) const

@@ -68,6 +68,10 @@ private:
     bool typingElsewhere() const;
     void focusFirst();
     void restoreFocus();
+    // The main window made larger than designed: the canvas fills the view
+    // and the controls take the extra room by their stretch.
+    void spreadIntoView();
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     Form& form_;
     Kind kind_;
@@ -82,6 +86,8 @@ private:
     bool timersActive_ = false;
     bool shownByCore_ = false;
     QPointer<QWidget> returnFocus_;
+    QSize designedClient_;
+    int geometryRequestsSeen_ = -1;
 };
 
 }  // namespace vistrel::qt

@@ -29,6 +29,7 @@
 #include "QtPlatform.h"
 #include "ScaledStyle.h"
 #include "SlipActions.h"
+#include "WindowSizeMemory.h"
 #include "TextConversion.h"
 #include "Screenshot.h"
 #include "SerialPorts.h"
@@ -152,6 +153,7 @@ int main(int argc, char** argv)
     clock.start();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vistrel"));
+    QApplication::setOrganizationName(QStringLiteral("Vistrel"));
     // Closing windows is the station's decision, not Qt's.
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -199,6 +201,11 @@ int main(int argc, char** argv)
         });
     }
 
+    // Runs that take pictures or times keep the designed size and leave the
+    // person's remembered one alone.
+    std::unique_ptr<vistrel::qt::WindowSizeMemory> sizeMemory;
+    if (!screenshot && !options.timing)
+        sizeMemory = std::make_unique<vistrel::qt::WindowSizeMemory>(windows.main().window());
     windows.main().window()->show();
     // The start-up runs inside the event loop, so the window is up and
     // shows the progress of the load.
@@ -216,8 +223,14 @@ int main(int argc, char** argv)
             QCoreApplication::exit(0);
             return;
         }
-        if (screenshot)
+        if (screenshot) {
             screenshot->finish();
+            return;
+        }
+        // The size a person gave the window last time, once the start-up has
+        // set the designed one.
+        if (sizeMemory)
+            sizeMemory->restore();
     });
     return QApplication::exec();
 }

@@ -348,6 +348,31 @@ void Frm_Vistrel::design()
     Lbl_NetworkJournalDown.setForeColor(colors::Red);
     Lbl_NetworkJournalDown.setVisible(false);
 
+    // ---- A window made larger than designed: the result list and the stock
+    // lists take the room it gains, half the height each, and the controls
+    // beside and below them go with them.
+    using Stretch = Control::Stretch;
+    for (Control* c : std::initializer_list<Control*>{&Lbl_SearchDataEntryArea, &Txt_Status})
+        c->setStretch({0, 0, 1, 0});
+    for (Control* c : std::initializer_list<Control*>{&Frm_Selection, &Frm_LeftSelection, &Lst_LeftSelection})
+        c->setStretch({0, 0, 1, 0.5});
+    Lbl_Recommendation.setStretch({0, 0.5, 1, 0});
+    Frm_LeftInventory.setStretch({0, 0.5, 0.5, 0.5});
+    Frm_RightInventory.setStretch({0.5, 0.5, 0.5, 0.5});
+    for (Control* c : std::initializer_list<Control*>{&Lbl_LeftInventoryHeads, &Lbl_RightInventoryHeads})
+        c->setStretch({0, 0, 0.5, 0});
+    for (Control* c : std::initializer_list<Control*>{&Lst_LeftInventory, &Lst_RightInventory})
+        c->setStretch({0, 0, 0.5, 0.5});
+    Frm_Persons.setStretch({1, 0.5, 0, 0.5});
+    Lst_PersonsList.setStretch({0, 0, 0, 0.5});
+    Cmd_ListPersons.setStretch({0, 0.5, 0, 0});
+    for (Control* c : std::initializer_list<Control*>{&Lbl_InventoryNr, &Txt_InventoryNr, &Lbl_Used, &Txt_Used,
+             &Cmd_ClearReload, &Cmd_ReadingGlasses, &Cmd_DisplayLensFrames, &Cmd_Sizer, &Cmd_CloseProgram})
+        c->setStretch({1, 0.5, 0, 0});
+    for (Control* c : std::initializer_list<Control*>{&Lbl_NetworkJournalDown, &Lbl_PracticePlay, &Img_Backwards,
+             &Txt_Play_Person_Nr, &Img_Forward})
+        c->setStretch(Stretch{0, 1, 0, 0});
+
     // ---- Keyboard order: person, age, the eyes (set by the tab-order
     // operations), then the search and the results. Spin buttons and fields
     // that only show a result are left out of the Tab chain.

@@ -7,6 +7,8 @@
 #include "core/Frm_Vistrel.h"
 #include "core/Text.h"
 
+#include <utility>
+
 namespace vistrel {
 
 namespace {
@@ -21,6 +23,11 @@ void swapLeft(Control& left, Control& right, std::int16_t& saved)
     saved = static_cast<std::int16_t>(left.left());
     left.setLeft(right.left());
     right.setLeft(saved);
+    // In a window larger than designed, each takes the other's way of moving too.
+    Control::Stretch leftStretch = left.stretch(), rightStretch = right.stretch();
+    std::swap(leftStretch.moveX, rightStretch.moveX);
+    left.setStretch(leftStretch);
+    right.setStretch(rightStretch);
 }
 
 void setOrder(const std::initializer_list<std::pair<TextBox*, int>>& order)

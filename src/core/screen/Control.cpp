@@ -106,6 +106,12 @@ void Control::setGeometry(int left, int top, int width, int height)
     notify(Prop::Geometry);
 }
 
+void Control::setStretch(const Stretch& stretch)
+{
+    stretch_ = stretch;
+    notify(Prop::Geometry);
+}
+
 void Control::setBorderStyle(int style)
 {
     if (borderStyle_ == style)

@@ -115,6 +115,19 @@ public:
     void setHeight(int v);
     void setGeometry(int left, int top, int width, int height);
 
+    // How the control follows a window made larger than designed: the
+    // shares (0 to 1) of the window's extra width and height by which it
+    // moves, relative to its container, and by which it grows. The designed
+    // size is the smallest; nothing headless uses it.
+    struct Stretch {
+        double moveX = 0;
+        double moveY = 0;
+        double growWidth = 0;
+        double growHeight = 0;
+    };
+    const Stretch& stretch() const { return stretch_; }
+    void setStretch(const Stretch& stretch);
+
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index);
     // Whether the Tab key stops here; spin buttons and shown-only fields don't.
@@ -158,6 +171,7 @@ private:
     std::string toolTip_;
     int borderStyle_ = 0;
     int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+    Stretch stretch_;
     int tabIndex_ = 0;
     bool tabStop_ = true;
     Font font_;

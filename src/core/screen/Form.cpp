@@ -85,8 +85,7 @@ void Form::setCaption(const std::string& caption)
 
 void Form::setGeometry(int left, int top, int width, int height)
 {
-    if (left == left_ && top == top_ && width == width_ && height == height_)
-        return;
+    ++geometryRequests_;
     left_ = left;
     top_ = top;
     width_ = width;

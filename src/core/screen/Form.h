@@ -53,6 +53,9 @@ public:
     int width() const { return width_; }
     int height() const { return height_; }
     void setGeometry(int left, int top, int width, int height);
+    // How often the geometry was set, changed or not: a window made larger
+    // by hand goes back to the set size at the next request.
+    int geometryRequests() const { return geometryRequests_; }
     void setLeft(int v) { setGeometry(v, top_, width_, height_); }
     void setTop(int v) { setGeometry(left_, v, width_, height_); }
     void setWidth(int v) { setGeometry(left_, top_, v, height_); }
@@ -86,6 +89,7 @@ private:
 
     std::string caption_;
     bool visible_ = false;
+    int geometryRequests_ = 0;
     bool loaded_ = false;
     bool modal_ = false;
     int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
