@@ -28,6 +28,7 @@
 #include "Metrics.h"
 #include "QtPlatform.h"
 #include "ScaledStyle.h"
+#include "PortNames.h"
 #include "SlipActions.h"
 #include "WindowSizeMemory.h"
 #include "TextConversion.h"
@@ -35,6 +36,7 @@
 #include "SerialPorts.h"
 #include "StationWindows.h"
 
+#include "core/Frm_ProgramOptions.h"
 #include "core/Frm_Vistrel.h"
 #include "core/Station.h"
 
@@ -187,6 +189,7 @@ int main(int argc, char** argv)
         platform.messageBox("Slip not printed", vistrel::qt::toCoreLines(message), vistrel::MsgIcon::Exclamation);
     };
     const vistrel::qt::MenuBinding* fileMenu = windows.main().menus().bindingFor(station.vistrel().GenerateFileReports);
+    vistrel::qt::PortNames portNames(*windows.windowFor(station.options()), station.options());
     vistrel::qt::SlipActions slipActions(
         station.vistrel(), printer, fileMenu ? fileMenu->dropDown() : nullptr, windows.main().window());
 
