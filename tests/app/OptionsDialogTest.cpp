@@ -1,0 +1,165 @@
+// The options dialog in its window, worked by the keyboard: a box ticked
+// with Space reaches the station, Alt+S saves the line, and the serial
+// ports this computer has are named beside the station's numbers.
+
+#include "FormWindow.h"
+#include "PortNames.h"
+#include "QtPlatform.h"
+#include "StationWindows.h"
+
+#include "core/Frm_ProgramOptions.h"
+#include "core/Frm_Vistrel.h"
+#include "core/Station.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+using namespace vistrel;
+
+namespace {
+
+const QByteArray OptionsLine =
+    "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
+    "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
+    "32000\r\n";
+
+void writeFile(const QString& path, const QByteArray& text)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+class Volunteer : public qt::DialogWatcher {
+public:
+    std::function<void(Form&, QWidget*)> work;
+
+    void messageShown(QMessageBox& box) override
+    {
+        QTimer::singleShot(0, &box, [&box] { box.accept(); });
+    }
+    void modalShown(Form& form, QWidget* window) override
+    {
+        auto act = std::exchange(work, nullptr);
+        QTimer::singleShot(0, window, [act, &form, window] {
+            window->activateWindow();
+            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
+            if (act)
+                act(form, window);
+            if (form.visible())
+                form.closeBox();
+        });
+    }
+};
+
+void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
+}
+
+}  // namespace
+
+class OptionsDialogTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folders_;
+    QString optionsFile_;
+    std::unique_ptr<qt::QtPlatform> platform_;
+    std::unique_ptr<Station> station_;
+    std::unique_ptr<qt::StationWindows> windows_;
+    std::unique_ptr<qt::PortNames> portNames_;
+    Volunteer volunteer_;
+
+private slots:
+    void initTestCase()
+    {
+        const QString documents = folders_.filePath(QStringLiteral("documents"));
+        const QString shared = folders_.filePath(QStringLiteral("shared"));
+        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
+        qputenv("VISTREL_SHARED", shared.toUtf8());
+        qputenv("VISTREL_COM3", "/nonexistent/vistrel-adapter");
+        optionsFile_ = shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt");
+        writeFile(optionsFile_, OptionsLine);
+        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"),
+            "1,-2.00,0.00,0,0.00,-2.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n");
+        platform_ = std::make_unique<qt::QtPlatform>();
+        station_ = std::make_unique<Station>(*platform_);
+        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), station_->vistrel(), qt::Metrics(1.0, 96.0));
+        platform_->setWindows(windows_.get());
+        platform_->setDialogWatcher(&volunteer_);
+        portNames_ = std::make_unique<qt::PortNames>(*windows_->windowFor(station_->options()), station_->options());
+        windows_->main().window()->show();
+        station_->start();
+        QVERIFY(QTest::qWaitForWindowExposed(windows_->main().window()));
+    }
+
+    void cleanupTestCase()
+    {
+        portNames_.reset();
+        windows_.reset();
+        station_.reset();
+        platform_.reset();
+        qunsetenv("VISTREL_COM3");
+    }
+
+    void aBoxTickedBySpaceIsSavedByAltS()
+    {
+        Frm_ProgramOptions& options = station_->options();
+        qt::FormWindow* window = windows_->windowFor(options);
+        auto* confidence = qobject_cast<QCheckBox*>(window->widgetFor(options.Chk_ConfidenceLevel));
+        bool worked = false;
+        volunteer_.work = [&](Form&, QWidget* dialog) {
+            QVERIFY(dialog->isAncestorOf(QApplication::focusWidget()));
+            // Tab reaches the box without leaving the dialog.
+            for (int i = 0; i < 200 && QApplication::focusWidget() != confidence; ++i) {
+                key(Qt::Key_Tab);
+                QVERIFY(dialog->isAncestorOf(QApplication::focusWidget()));
+            }
+            QCOMPARE(QApplication::focusWidget(), confidence);
+            key(Qt::Key_Space);
+            QCOMPARE(options.Chk_ConfidenceLevel.value(), 1);
+            key(Qt::Key_S, Qt::AltModifier);
+            QTRY_VERIFY(!options.visible());
+            worked = true;
+        };
+        station_->vistrel().SetOptions.click();
+        QVERIFY(worked);
+
+        // The line as written: record 37 (the confidence) now YES, all else as
+        // read, but that with no port chosen record 9 is left out altogether.
+        QFile file(optionsFile_);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArray expected = OptionsLine;
+        QList<QByteArray> fields = expected.chopped(2).split(',');
+        fields[36] = "YES";
+        fields.removeAt(8);
+        QCOMPARE(file.readAll(), fields.join(',') + "\r\n");
+    }
+
+    void thePortsOfThisComputerAreNamedBesideTheNumbers()
+    {
+        Frm_ProgramOptions& options = station_->options();
+        qt::FormWindow* window = windows_->windowFor(options);
+        bool looked = false;
+        volunteer_.work = [&](Form&, QWidget*) {
+            QWidget* three = window->widgetFor(options.Opt_Com[3]);
+            QVERIFY(three->font().bold());
+            QVERIFY(three->toolTip().contains(QStringLiteral("/nonexistent/vistrel-adapter")));
+            auto* line = window->widgetFor(options.Frm_ComPort)->findChild<QLabel*>(QStringLiteral("SystemPortNames"));
+            QVERIFY(line);
+            QVERIFY(line->text().contains(QStringLiteral("3 = /nonexistent/vistrel-adapter")));
+            looked = true;
+        };
+        station_->vistrel().SetOptions.click();
+        QVERIFY(looked);
+    }
+};
+
+QTEST_MAIN(OptionsDialogTest)
+#include "OptionsDialogTest.moc"
