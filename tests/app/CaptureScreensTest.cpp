@@ -3,6 +3,7 @@
 
 #include "FormWindow.h"
 #include "QtPlatform.h"
+#include "WindowTestSupport.h"
 #include "StationWindows.h"
 
 #include "autorefractor/Frm_AutoReadings.h"
@@ -20,6 +21,9 @@
 #include <functional>
 
 using namespace vistrel;
+using test::key;
+using test::tabTo;
+using test::writeFile;
 
 namespace {
 
@@ -28,54 +32,6 @@ const char* const Readings =
     "7,45,-2.25,-0.75,180,1.50,-0.50,90,3/12/2025,10:42:00\r\n"
     "3,60,0.50,-0.25,10,0.75,-0.25,170,3/12/2025,10:50:13\r\n"
     "7,45,-2.00,-0.50,175,1.25,-0.50,85,3/12/2025,11:02:40\r\n";
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-// Works a modal screen, once it is up and has the keyboard, with what the
-// test gives it; closes it otherwise.
-class Person : public qt::DialogWatcher {
-public:
-    std::function<void(Form&, QWidget*)> answer;
-    int messages = 0;
-
-    void messageShown(QMessageBox& box) override
-    {
-        ++messages;
-        QTimer::singleShot(0, &box, [&box] { box.accept(); });
-    }
-    void modalShown(Form& form, QWidget* window) override
-    {
-        auto act = std::exchange(answer, nullptr);
-        QTimer::singleShot(0, window, [act, &form, window] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
-            if (act)
-                act(form, window);
-            if (form.visible())
-                form.closeBox();
-        });
-    }
-};
-
-void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
-}
-
-// Tabs through the window until the caret is on the widget; false when a
-// whole round never gets there.
-bool tabTo(QWidget* target, Qt::Key k = Qt::Key_Tab)
-{
-    for (int i = 0; i < 400 && QApplication::focusWidget() != target; ++i)
-        key(k);
-    return QApplication::focusWidget() == target;
-}
 
 }  // namespace
 
@@ -86,7 +42,7 @@ class CaptureScreensTest : public QObject {
     std::unique_ptr<qt::QtPlatform> platform_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<qt::StationWindows> windows_;
-    Person person_;
+    test::Person person_;
 
     Frm_Vistrel& main() { return station_->vistrel(); }
     qt::FormWindow& mainWindow() { return windows_->main(); }

@@ -5,6 +5,7 @@
 
 #include "FormWindow.h"
 #include "QtPlatform.h"
+#include "WindowTestSupport.h"
 #include "StationWindows.h"
 
 #include "core/Frm_Vistrel.h"
@@ -15,30 +16,8 @@
 #include <QtTest>
 
 using namespace vistrel;
-
-namespace {
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-class Accepting : public qt::DialogWatcher {
-public:
-    void messageShown(QMessageBox& box) override
-    {
-        QTimer::singleShot(0, &box, [&box] { box.accept(); });
-    }
-    void modalShown(Form& form, QWidget*) override
-    {
-        QTimer::singleShot(0, [&form] { form.closeBox(); });
-    }
-};
-
-}  // namespace
+using test::key;
+using test::writeFile;
 
 class MainWindowResizeTest : public QObject {
     Q_OBJECT
@@ -47,7 +26,7 @@ class MainWindowResizeTest : public QObject {
     std::unique_ptr<qt::QtPlatform> platform_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<qt::StationWindows> windows_;
-    Accepting watcher_;
+    test::Person watcher_;
 
     Frm_Vistrel& main() { return station_->vistrel(); }
     QWidget* window() { return windows_->main().window(); }

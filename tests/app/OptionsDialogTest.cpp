@@ -5,6 +5,7 @@
 #include "FormWindow.h"
 #include "PortNames.h"
 #include "QtPlatform.h"
+#include "WindowTestSupport.h"
 #include "StationWindows.h"
 
 #include "core/Frm_ProgramOptions.h"
@@ -20,6 +21,8 @@
 #include <functional>
 
 using namespace vistrel;
+using test::key;
+using test::writeFile;
 
 namespace {
 
@@ -27,41 +30,6 @@ const QByteArray OptionsLine =
     "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
     "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
     "32000\r\n";
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-class Volunteer : public qt::DialogWatcher {
-public:
-    std::function<void(Form&, QWidget*)> work;
-
-    void messageShown(QMessageBox& box) override
-    {
-        QTimer::singleShot(0, &box, [&box] { box.accept(); });
-    }
-    void modalShown(Form& form, QWidget* window) override
-    {
-        auto act = std::exchange(work, nullptr);
-        QTimer::singleShot(0, window, [act, &form, window] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
-            if (act)
-                act(form, window);
-            if (form.visible())
-                form.closeBox();
-        });
-    }
-};
-
-void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
-}
 
 }  // namespace
 
@@ -74,7 +42,7 @@ class OptionsDialogTest : public QObject {
     std::unique_ptr<Station> station_;
     std::unique_ptr<qt::StationWindows> windows_;
     std::unique_ptr<qt::PortNames> portNames_;
-    Volunteer volunteer_;
+    test::Person person_;
 
 private slots:
     void initTestCase()
@@ -92,7 +60,7 @@ private slots:
         station_ = std::make_unique<Station>(*platform_);
         windows_ = std::make_unique<qt::StationWindows>(station_->forms(), station_->vistrel(), qt::Metrics(1.0, 96.0));
         platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&volunteer_);
+        platform_->setDialogWatcher(&person_);
         portNames_ = std::make_unique<qt::PortNames>(*windows_->windowFor(station_->options()), station_->options());
         windows_->main().window()->show();
         station_->start();
@@ -114,7 +82,7 @@ private slots:
         qt::FormWindow* window = windows_->windowFor(options);
         auto* confidence = qobject_cast<QCheckBox*>(window->widgetFor(options.Chk_ConfidenceLevel));
         bool worked = false;
-        volunteer_.work = [&](Form&, QWidget* dialog) {
+        person_.answer = [&](Form&, QWidget* dialog) {
             QVERIFY(dialog->isAncestorOf(QApplication::focusWidget()));
             // Tab reaches the box without leaving the dialog.
             for (int i = 0; i < 200 && QApplication::focusWidget() != confidence; ++i) {
@@ -147,7 +115,7 @@ private slots:
         Frm_ProgramOptions& options = station_->options();
         qt::FormWindow* window = windows_->windowFor(options);
         bool looked = false;
-        volunteer_.work = [&](Form&, QWidget*) {
+        person_.answer = [&](Form&, QWidget*) {
             QWidget* three = window->widgetFor(options.Opt_Com[3]);
             QVERIFY(three->font().bold());
             QVERIFY(three->toolTip().contains(QStringLiteral("/nonexistent/vistrel-adapter")));

@@ -5,6 +5,7 @@
 
 #include "FormWindow.h"
 #include "QtPlatform.h"
+#include "WindowTestSupport.h"
 #include "StationWindows.h"
 
 #include "core/Frm_ProgramOptions.h"
@@ -25,6 +26,9 @@
 #include <functional>
 
 using namespace vistrel;
+using test::key;
+using test::tabTo;
+using test::writeFile;
 
 namespace {
 
@@ -35,55 +39,11 @@ const char* const Inventory =
     "2,-3.50,-1.25,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n"
     "3,-3.00,-2.00,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n";
 
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
 double scale()
 {
     bool ok = false;
     const double s = qEnvironmentVariable("VISTREL_SCALE").toDouble(&ok);
     return ok && s > 0 ? s : 1.0;
-}
-
-// Works the wizard, once it is up and has the keyboard, with what the test
-// gives it; closes it otherwise.
-class Volunteer : public qt::DialogWatcher {
-public:
-    std::function<void(Form&, QWidget*)> work;
-
-    void messageShown(QMessageBox& box) override
-    {
-        QTimer::singleShot(0, &box, [&box] { box.accept(); });
-    }
-    void modalShown(Form& form, QWidget* window) override
-    {
-        auto act = std::exchange(work, nullptr);
-        QTimer::singleShot(0, window, [act, &form, window] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
-            if (act)
-                act(form, window);
-            if (form.visible())
-                form.closeBox();
-        });
-    }
-};
-
-void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
-}
-
-bool tabTo(QWidget* target)
-{
-    for (int i = 0; i < 200 && QApplication::focusWidget() != target; ++i)
-        key(Qt::Key_Tab);
-    return QApplication::focusWidget() == target;
 }
 
 // The whole of a wrapped text fits the box it is shown in.
@@ -109,7 +69,7 @@ class WizardWindowTest : public QObject {
     std::unique_ptr<qt::QtPlatform> platform_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<qt::StationWindows> windows_;
-    Volunteer volunteer_;
+    test::Person person_;
 
     Frm_Vistrel& main() { return station_->vistrel(); }
     Frm_Advisor& wizard() { return station_->advisor(); }
@@ -150,7 +110,7 @@ private slots:
         station_ = std::make_unique<Station>(*platform_);
         windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(scale(), 96.0));
         platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&volunteer_);
+        platform_->setDialogWatcher(&person_);
         mainWindow().window()->show();
         station_->start();
         QVERIFY(QTest::qWaitForWindowActive(mainWindow().window()));
@@ -199,7 +159,7 @@ private slots:
         auto* guide = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_GuideMe));
         auto* help = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_Help));
         bool worked = false;
-        volunteer_.work = [&](Form&, QWidget* dialog) {
+        person_.answer = [&](Form&, QWidget* dialog) {
             QVERIFY(wizard().Showing);
             QVERIFY(dialog->isAncestorOf(QApplication::focusWidget()));
 

@@ -8,6 +8,7 @@
 #include "MenuBuilder.h"
 #include "Metrics.h"
 #include "QtPlatform.h"
+#include "WindowTestSupport.h"
 #include "StationWindows.h"
 
 #include "core/Frm_About.h"
@@ -27,47 +28,10 @@
 #include <functional>
 
 using namespace vistrel;
+using test::key;
+using test::writeFile;
 
 namespace {
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-// Works a modal screen once it is up and has the keyboard; closes it
-// otherwise. Message boxes are counted and accepted.
-class Person : public qt::DialogWatcher {
-public:
-    std::function<void(Form&, QWidget*)> answer;
-    int messages = 0;
-
-    void messageShown(QMessageBox& box) override
-    {
-        ++messages;
-        QTimer::singleShot(0, &box, [&box] { box.accept(); });
-    }
-    void modalShown(Form& form, QWidget* window) override
-    {
-        auto act = std::exchange(answer, nullptr);
-        QTimer::singleShot(0, window, [act, &form, window] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }));
-            if (act)
-                act(form, window);
-            if (form.visible())
-                form.closeBox();
-        });
-    }
-};
-
-void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), k, modifiers);
-}
 
 // A label's whole text fits its place, wrapped as the window wraps it.
 bool labelFits(const QLabel* label)
@@ -85,7 +49,7 @@ class HelpWindowTest : public QObject {
     std::unique_ptr<qt::QtPlatform> platform_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<qt::StationWindows> windows_;
-    Person person_;
+    test::Person person_;
     QStringList opened_;
 
     Frm_Vistrel& main() { return station_->vistrel(); }
