@@ -245,6 +245,7 @@ private:
     void refreshFields(bool left);
     void caseOne(bool left);
     void caseTwo(bool left);
+    int tryCylinderSteps(bool left, const std::function<void()>& step, std::int16_t& best);
     void caseThree(bool left);
     void caseFour(bool left);
     void restore(bool left);

@@ -70,6 +70,29 @@ void Frm_Advisor::Chk_Case2_Left_Click() { caseTwo(true); }
 
 void Frm_Advisor::Chk_Case2_Right_Click() { caseTwo(false); }
 
+// ---- Cases 3 and 4: steps on the cylinder ----
+
+// Takes steps on the eye's cylinder, searching each, until it is half of
+// the measured one or the steps run out; the step that found most, the
+// earliest of equals (only a strictly larger count moves the best), and
+// that count in best. With no improvement it is step 1.
+int Frm_Advisor::tryCylinderSteps(bool left, const std::function<void()>& step, std::int16_t& best)
+{
+    Frm_Vistrel& v = vistrel();
+    int bestStep = 1;
+    for (int n = 1; n <= MostSteps; ++n) {
+        step();
+        if (v.FoundCount > best) {
+            best = v.FoundCount;
+            bestStep = n;
+        }
+        refreshFields(left);
+        if (halfOfMeasuredReached(autorefractor(), left ? 0 : 1, eye(left).cylinder))
+            break;
+    }
+    return bestStep;
+}
+
 // ---- Case 3: cut-back with the equivalent kept ----
 
 void Frm_Advisor::caseThree(bool left)
@@ -85,23 +108,12 @@ void Frm_Advisor::caseThree(bool left)
         };
         Foundstart = v.FoundCount;
         std::int16_t best = v.FoundCount;
-        int bestStep = 1;
         const std::string keptSphere = e.sphere.text();
         const std::string keptCylinder = e.cylinder.text();
         if (e.case3.value() != 1) {
             restore(left);
         } else {
-            // Earliest of equals: only a strictly larger count moves the best.
-            for (int n = 1; n <= MostSteps; ++n) {
-                cutBack();
-                if (v.FoundCount > best) {
-                    best = v.FoundCount;
-                    bestStep = n;
-                }
-                refreshFields(left);
-                if (halfOfMeasuredReached(autorefractor(), left ? 0 : 1, e.cylinder))
-                    break;
-            }
+            const int bestStep = tryCylinderSteps(left, cutBack, best);
             // Back to the start, then forward to the best step. The eye is
             // still in its cut-back, so the saved prescription stays.
             e.sphere.setText(keptSphere);
@@ -132,22 +144,14 @@ void Frm_Advisor::caseFour(bool left)
         auto reduce = [&e] { e.cylinder.setText(Format(Val(e.cylinder.text()) + 0.25, "##.00")); };
         Foundstart = v.FoundCount;
         std::int16_t best = v.FoundCount;
-        int bestStep = 1;
         const std::string keptCylinder = e.cylinder.text();
         if (e.case4.value() != 1) {
             restore(left);
         } else {
-            for (int n = 1; n <= MostSteps; ++n) {
+            const int bestStep = tryCylinderSteps(left, [&] {
                 reduce();
                 Cmd_Search_Click();
-                if (v.FoundCount > best) {
-                    best = v.FoundCount;
-                    bestStep = n;
-                }
-                refreshFields(left);
-                if (halfOfMeasuredReached(autorefractor(), left ? 0 : 1, e.cylinder))
-                    break;
-            }
+            }, best);
             e.cylinder.setText(keptCylinder);
             for (int n = 1; n <= bestStep; ++n) {
                 reduce();
