@@ -84,7 +84,7 @@ ShellRequest parseShellRequest(const QString& what, const std::function<QString(
 
 QtPlatform::QtPlatform(QStringList arguments) : arguments_(std::move(arguments))
 {
-    openDocument = [](const QString& file) { QDesktopServices::openUrl(QUrl::fromLocalFile(file)); };
+    openDocument = [](const QString& file) { return QDesktopServices::openUrl(QUrl::fromLocalFile(file)); };
     startProgram = [](const QString& command) {
 #ifdef Q_OS_WIN
         QProcess::startDetached(QStringLiteral("cmd.exe"), {QStringLiteral("/c"), command});
@@ -176,9 +176,16 @@ void QtPlatform::shell(const std::string& what)
 {
     const ShellRequest request = parseShellRequest(
         fromCore(what), [this](const QString& path) { return fromCore(nativePath(toCore(path))); });
-    if (!request.document.isEmpty())
-        openDocument(request.document);
-    else if (!request.command.isEmpty())
+    if (!request.document.isEmpty()) {
+        // A report or a guide that nothing opens would leave the volunteer
+        // waiting for a window that never comes: say where the file is.
+        if (!openDocument(request.document))
+            messageBox("Vistrel",
+                toCore(QStringLiteral("No program on this computer opened the file:\n\n%1\n\n"
+                                      "Open it by hand, or install a viewer for its kind of file.")
+                           .arg(QDir::toNativeSeparators(request.document))),
+                MsgIcon::Information);
+    } else if (!request.command.isEmpty())
         startProgram(request.command);
 }
 

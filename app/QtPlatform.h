@@ -66,7 +66,8 @@ public:
     [[noreturn]] void endProcess() override;
 
     // Starts a program or opens a document; separate so tests can watch it.
-    std::function<void(const QString& file)> openDocument;
+    // Opening a document says whether a program took it.
+    std::function<bool(const QString& file)> openDocument;
     std::function<void(const QString& command)> startProgram;
     // Starts a script file in its folder: through cmd on Windows, as the
     // program itself elsewhere.

@@ -2,6 +2,7 @@
 // the widgets reach the core once, in the core's way.
 
 #include "TestForm.h"
+#include "WindowTestSupport.h"
 
 #include "TimerBinding.h"
 
@@ -253,10 +254,10 @@ private slots:
         courier.bold = true;
         b.form.Lbl_Title.setFont(courier);
         const QFont f = b.widget<QLabel>(b.form.Lbl_Title)->font();
-        QVERIFY(QFontInfo(f).fixedPitch());
+        QVERIFY(columnsLineUp(f));
         QVERIFY(f.bold());
         QCOMPARE(f.pointSizeF(), 10.0);
-        QVERIFY(QFontInfo(b.window.widgetFor(b.form.Lst_Rows)->font()).fixedPitch());
+        QVERIFY(columnsLineUp(b.window.widgetFor(b.form.Lst_Rows)->font()));
     }
 
     // ---- geometry ----

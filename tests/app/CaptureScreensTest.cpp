@@ -21,6 +21,7 @@
 #include <functional>
 
 using namespace vistrel;
+using test::columnsLineUp;
 using test::key;
 using test::tabTo;
 using test::writeFile;
@@ -113,9 +114,9 @@ private slots:
         person_.answer = [&](Form&, QWidget*) {
             QCOMPARE(browser.Lst_AutorefractorReadings.listCount(), 3);
             // Columns stand under each other only in a fixed-pitch face.
-            QVERIFY(QFontInfo(byTime->font()).fixedPitch());
-            QVERIFY(QFontInfo(byPerson->font()).fixedPitch());
-            QVERIFY(QFontInfo(window->widgetFor(browser.Lbl_Heading)->font()).fixedPitch());
+            QVERIFY(columnsLineUp(byTime->font()));
+            QVERIFY(columnsLineUp(byPerson->font()));
+            QVERIFY(columnsLineUp(window->widgetFor(browser.Lbl_Heading)->font()));
             // A whole row is in view, not cut at the list's edge.
             const QString row = byTime->model()->index(0, 0).data().toString();
             QVERIFY(byTime->fontMetrics().horizontalAdvance(row) < byTime->viewport()->width());

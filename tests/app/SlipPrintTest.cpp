@@ -4,6 +4,7 @@
 
 #include "QtPrinter.h"
 #include "SlipDocument.h"
+#include "WindowTestSupport.h"
 
 #include <QFile>
 #include <QFontInfo>
@@ -16,6 +17,7 @@
 #include <QtTest>
 
 using namespace vistrel::qt;
+using vistrel::test::columnsLineUp;
 
 namespace {
 
@@ -73,8 +75,8 @@ private slots:
     void thePrescriptionFaceIsFixedPitch()
     {
         // The columns of the prescription block line up only in such a face.
-        QVERIFY(QFontInfo(SlipFont(QStringLiteral("Courier New"), 8, true, false)).fixedPitch());
-        QVERIFY(!QFontInfo(SlipFont(QStringLiteral("MS Sans Serif"), 8, true, false)).fixedPitch());
+        QVERIFY(columnsLineUp(SlipFont(QStringLiteral("Courier New"), 8, true, false)));
+        QVERIFY(!columnsLineUp(SlipFont(QStringLiteral("MS Sans Serif"), 8, true, false)));
         QCOMPARE(SlipFont(QStringLiteral("MS Serif"), 7, false, true).underline(), true);
         QCOMPARE(SlipFont(QStringLiteral("Small Fonts"), 7, true, false).pointSizeF(), 7.0);
     }

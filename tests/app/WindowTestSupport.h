@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontMetricsF>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
@@ -35,10 +36,12 @@ class Person : public qt::DialogWatcher {
 public:
     std::function<void(Form&, QWidget*)> answer;
     int messages = 0;
+    QString lastMessage;
 
     void messageShown(QMessageBox& box) override
     {
         ++messages;
+        lastMessage = box.text();
         QTimer::singleShot(0, &box, [&box] { box.accept(); });
     }
     void modalShown(Form& form, QWidget* window) override
@@ -54,6 +57,19 @@ public:
         });
     }
 };
+
+// Columns stand under each other when every character is as wide as any
+// other. Measured, because some monospaced faces (Noto Sans Mono) don't
+// call themselves fixed-pitch.
+inline bool columnsLineUp(const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    const qreal width = metrics.horizontalAdvance(QLatin1Char('W'));
+    for (const QChar c : QStringLiteral("il.1 0-(|"))
+        if (!qFuzzyCompare(metrics.horizontalAdvance(c), width))
+            return false;
+    return true;
+}
 
 inline void key(Qt::Key k, Qt::KeyboardModifiers modifiers = {})
 {

@@ -83,7 +83,10 @@ private slots:
             "1,-2.25,-0.75,180,0.00,1.50,-0.50,90,0.00,0,0,0,0,0,M,0,\"\",\"\",\"\"\r\n");
 
         platform_ = std::make_unique<qt::QtPlatform>();
-        platform_->openDocument = [this](const QString& file) { opened_ << file; };
+        platform_->openDocument = [this](const QString& file) {
+            opened_ << file;
+            return true;
+        };
         station_ = std::make_unique<Station>(*platform_);
         windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics::fromEnvironment());
         platform_->setWindows(windows_.get());
@@ -174,6 +177,19 @@ private slots:
         QTest::mouseClick(heading, Qt::LeftButton, {}, heading->rect().center());
         QTRY_COMPARE(opened_.size(), 1);
         QCOMPARE(QFileInfo(opened_[0]).fileName(), QStringLiteral("Search_Results_Help.pdf"));
+    }
+
+    // A computer with no PDF viewer: the volunteer is told where the guide is
+    // instead of waiting for a window that never comes.
+    void aGuideNothingOpensIsNamedInAMessage()
+    {
+        const auto keep = platform_->openDocument;
+        platform_->openDocument = [](const QString&) { return false; };
+        const int before = person_.messages;
+        trigger(main().HelpFileDropdown);
+        platform_->openDocument = keep;
+        QCOMPARE(person_.messages, before + 1);
+        QVERIFY2(person_.lastMessage.contains(QStringLiteral("File_Dropdown_Help.pdf")), qPrintable(person_.lastMessage));
     }
 };
 
