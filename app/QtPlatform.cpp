@@ -1,5 +1,6 @@
 #include "QtPlatform.h"
 
+#include "KeyboardKeeper.h"
 #include "SerialStatus.h"
 #include "StationWindows.h"
 #include "TextConversion.h"
@@ -127,6 +128,7 @@ QWidget* QtPlatform::activeWindow() const
 void QtPlatform::messageBox(const std::string& title, const std::string& text, MsgIcon icon)
 {
     const QString caption = title.empty() ? QStringLiteral("Vistrel") : fromCore(title);
+    const KeyboardKeeper keeper;
     QMessageBox box(messageIcon(icon), caption, toWidgetLines(text), QMessageBox::Ok, activeWindow());
     box.setTextFormat(Qt::PlainText);
     if (watcher_)

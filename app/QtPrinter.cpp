@@ -1,5 +1,7 @@
 #include "QtPrinter.h"
 
+#include "KeyboardKeeper.h"
+
 #include "TextConversion.h"
 
 #include <QPainter>
@@ -141,7 +143,10 @@ void QtPrinter::showPreview()
             painter.end();
         }
     });
-    preview.exec();
+    {
+        const KeyboardKeeper keeper;
+        preview.exec();
+    }
     if (onPrinted)
         onPrinted(QStringLiteral("preview"));
 }

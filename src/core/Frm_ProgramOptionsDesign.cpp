@@ -151,8 +151,10 @@ void Frm_ProgramOptions::design()
             models[k].caption);
     Opt_NoAutorefractor.selectQuietly();
     place(Frm_ComPort, nullptr, 8160, 9360, 4320, 1440, "Serial port");
+    // "None" takes two cells of the grid, the ports 1 to 16 one each.
     for (int n = 0; n <= 16; ++n) {
-        place(Opt_Com[n], &Frm_ComPort, 120 + (n % 6) * 690, 240 + (n / 6) * 330, 660, 285,
+        const int cell = n == 0 ? 0 : n + 1;
+        place(Opt_Com[n], &Frm_ComPort, 120 + (cell % 6) * 690, 240 + (cell / 6) * 330, n == 0 ? 1350 : 660, 285,
             n == 0 ? "None" : std::to_string(n));
     }
     Opt_Com[0].selectQuietly();

@@ -6,6 +6,9 @@
 #include "Frm_Vistrel.h"
 #include "screen/Layout.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vistrel {
 
 namespace {
@@ -298,8 +301,13 @@ void Frm_Vistrel::design()
         {Lbl_GenderSearch, 9420, "G", "Gender:  E=Either, F= Female, M=Male, C=Child."},
         {Lbl_MatchFlag, 9660, "Flag", "Flag indicating Match or Sphere Equ."},
     };
-    for (const Head& h : heads)
-        place(h.label, &Frm_LeftSelection, h.left, 240, 600, 225, h.caption, h.tip);
+    // A heading reaches to the next one where that is far, so "Add (Pwr)"
+    // shows whole; the narrow lens-kind columns keep the designed width.
+    for (size_t k = 0; k < std::size(heads); ++k) {
+        const Head& h = heads[k];
+        const int room = k + 1 < std::size(heads) ? heads[k + 1].left - h.left - 30 : 600;
+        place(h.label, &Frm_LeftSelection, h.left, 240, std::max(600, room), 225, h.caption, h.tip);
+    }
     place(Lst_LeftSelection, &Frm_LeftSelection, 60, 480, 13920, 1830, {}, "Click to Make your selection");
     Lst_LeftSelection.setFont(kFixed);
     place(Lbl_Recommendation, nullptr, 60, 7830, 14160, 460);
@@ -336,12 +344,13 @@ void Frm_Vistrel::design()
     place(Lbl_Used, nullptr, 12420, 8730, 900, 225, "Used");
     place(Txt_Used, nullptr, 13350, 8670, 870, 330, {}, "Pairs given out.");
     Txt_Used.setLocked(true);
-    place(Cmd_ClearReload, nullptr, 12420, 9030, 1800, 360, "CLEAR && RELOAD ALL INVENTORY");
-    place(Cmd_ReadingGlasses, nullptr, 12420, 9420, 885, 360, "Readers");
-    place(Cmd_DisplayLensFrames, nullptr, 13335, 9420, 885, 360, "Lens");
-    place(Cmd_Sizer, nullptr, 12420, 9810, 585, 360, "Home");
+    // Two lines of caption: as high as two lines need.
+    place(Cmd_ClearReload, nullptr, 12420, 9030, 1800, 480, "CLEAR && RELOAD ALL INVENTORY");
+    place(Cmd_ReadingGlasses, nullptr, 12420, 9540, 885, 360, "Readers");
+    place(Cmd_DisplayLensFrames, nullptr, 13335, 9540, 885, 360, "Lens");
+    place(Cmd_Sizer, nullptr, 12420, 9930, 585, 360, "Home");
     Cmd_Sizer.setVisible(false);
-    place(Cmd_CloseProgram, nullptr, 13020, 9810, 1200, 360, "E&xit");
+    place(Cmd_CloseProgram, nullptr, 13020, 9930, 1200, 360, "E&xit");
     // A warning that must not be missed: large, bold and red.
     place(Lbl_NetworkJournalDown, nullptr, 60, 10425, 3660, 330, "Network Journal is down!");
     Lbl_NetworkJournalDown.setFont(kWarning);
