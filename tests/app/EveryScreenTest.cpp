@@ -7,9 +7,6 @@
 
 #include "LayoutCheck.h"
 #include "MenuBuilder.h"
-#include "Metrics.h"
-#include "QtPlatform.h"
-#include "StationWindows.h"
 #include "WindowTestSupport.h"
 
 #include "autorefractor/Frm_AutoReadings.h"
@@ -29,7 +26,6 @@
 
 #include <QAction>
 #include <QListView>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -40,21 +36,6 @@ using test::layoutFindings;
 
 namespace {
 
-double scale()
-{
-    bool ok = false;
-    const double s = qEnvironmentVariable("VISTREL_SCALE").toDouble(&ok);
-    return ok && s > 0 ? s : 1.0;
-}
-
-void copyFile(const QString& from, const QString& to)
-{
-    QDir().mkpath(QFileInfo(to).path());
-    QFile::remove(to);
-    QVERIFY2(QFile::copy(from, to), qPrintable(from));
-    QFile::setPermissions(to, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-}
-
 // Drawn over each other on purpose: the covers that hide an eye's fields,
 // and the boxes that share a place and are never shown together.
 const std::set<std::string> DesignedOverlaps = {"Lbl_LeftCover", "Lbl_RightCover"};
@@ -64,10 +45,9 @@ const std::set<std::string> DesignedOverlaps = {"Lbl_LeftCover", "Lbl_RightCover
 class EveryScreenTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    std::unique_ptr<test::WindowStation> window_;
+    Station* station_ = nullptr;
+    qt::StationWindows* windows_ = nullptr;
     test::Person person_;
 
     Frm_Vistrel& main() { return station_->vistrel(); }
@@ -142,37 +122,14 @@ class EveryScreenTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QVERIFY(folders_.isValid());
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        qputenv("VISTREL_COM1", "/nonexistent/vistrel-line");
-        const QString demo = QStringLiteral(VISTREL_DEMO_DIR);
-        copyFile(demo + QStringLiteral("/Vistrel/Total_Inventory.txt"),
-            documents + QStringLiteral("/Vistrel/Total_Inventory.txt"));
-        copyFile(demo + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
-            shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"));
-
-        platform_ = std::make_unique<qt::QtPlatform>();
-        platform_->openDocument = [](const QString&) { return true; };
-        platform_->startScript = [](const QString&) {};
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(scale(), 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        mainWindow()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowActive(mainWindow()));
+        window_ = std::make_unique<test::WindowStation>();
+        window_->useDemoData();
+        window_->start(person_, test::testScale());
+        station_ = &window_->station();
+        windows_ = &window_->windows();
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-        qunsetenv("VISTREL_COM1");
-    }
+    void cleanupTestCase() { window_.reset(); }
 
     void theMainScreenIsWholeBeforeAndAfterASearchAndATurn()
     {

@@ -1,10 +1,14 @@
 #pragma once
 
-// What the window tests share: files written for a station, a person who
-// works the modal screens, and the keyboard.
+// What the window tests share: files written for a station, a station in
+// its windows, a person who works the modal screens, and the keyboard.
 
+#include "Metrics.h"
 #include "QtPlatform.h"
+#include "StationWindows.h"
 
+#include "core/Frm_Vistrel.h"
+#include "core/Station.h"
 #include "core/screen/Form.h"
 
 #include <QApplication>
@@ -13,10 +17,12 @@
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace vistrel::test {
@@ -27,6 +33,84 @@ inline void writeFile(const QString& path, const QByteArray& text)
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
+}
+
+inline void copyFile(const QString& from, const QString& to)
+{
+    QDir().mkpath(QFileInfo(to).path());
+    QFile::remove(to);
+    QVERIFY2(QFile::copy(from, to), qPrintable(from));
+    QFile::setPermissions(to, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+// A station started in its windows as the window program starts it, in
+// folders of its own, with no serial line, and documents, programs and
+// scripts started nowhere. Files written into documents() and shared()
+// before start() are its stock and options.
+class WindowStation {
+public:
+    WindowStation() { qputenv("VISTREL_COM1", "/nonexistent/vistrel-line"); }
+    ~WindowStation()
+    {
+        windows_.reset();
+        station_.reset();
+        platform_.reset();
+        qunsetenv("VISTREL_COM1");
+    }
+    WindowStation(const WindowStation&) = delete;
+    WindowStation& operator=(const WindowStation&) = delete;
+
+    QString documents() const { return folders_.filePath(QStringLiteral("documents")); }
+    QString shared() const { return folders_.filePath(QStringLiteral("shared")); }
+
+#ifdef VISTREL_DEMO_DIR
+    void useDemoData()
+    {
+        const QString demo = QStringLiteral(VISTREL_DEMO_DIR);
+        copyFile(demo + QStringLiteral("/Vistrel/Total_Inventory.txt"),
+            documents() + QStringLiteral("/Vistrel/Total_Inventory.txt"));
+        copyFile(demo + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
+            shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"));
+    }
+#endif
+
+    void start(qt::DialogWatcher& watcher, double scale = 1.0)
+    {
+        QVERIFY(folders_.isValid());
+        qputenv("VISTREL_DOCUMENTS", documents().toUtf8());
+        qputenv("VISTREL_SHARED", shared().toUtf8());
+        platform_ = std::make_unique<qt::QtPlatform>();
+        platform_->openDocument = [](const QString&) { return true; };
+        platform_->startProgram = [](const QString&) {};
+        platform_->startScript = [](const QString&) {};
+        station_ = std::make_unique<Station>(*platform_);
+        windows_ = std::make_unique<qt::StationWindows>(
+            station_->forms(), station_->vistrel(), qt::Metrics(scale, 96.0));
+        platform_->setWindows(windows_.get());
+        platform_->setDialogWatcher(&watcher);
+        mainWindow()->show();
+        station_->start();
+        QVERIFY(QTest::qWaitForWindowActive(mainWindow()));
+    }
+
+    qt::QtPlatform& platform() const { return *platform_; }
+    Station& station() const { return *station_; }
+    qt::StationWindows& windows() const { return *windows_; }
+    QWidget* mainWindow() const { return windows_->main().window(); }
+
+private:
+    QTemporaryDir folders_;
+    std::unique_ptr<qt::QtPlatform> platform_;
+    std::unique_ptr<Station> station_;
+    std::unique_ptr<qt::StationWindows> windows_;
+};
+
+// The scale the test runs at: VISTREL_SCALE, else 1.
+inline double testScale()
+{
+    bool ok = false;
+    const double s = qEnvironmentVariable("VISTREL_SCALE").toDouble(&ok);
+    return ok && s > 0 ? s : 1.0;
 }
 
 // Works a modal screen, once it is up and has the keyboard, with what the

@@ -160,6 +160,8 @@ std::vector<fs::path> dataFolderCandidates(const std::optional<fs::path>& given,
     std::vector<fs::path> candidates{
         programFolder / "devices",
         programFolder / ".." / "share" / "vistrel" / "devices",
+        // Installed as a package: the programs in <prefix>/lib/vistrel.
+        programFolder / ".." / ".." / "share" / "vistrel" / "devices",
     };
     if (!sourceFolder.empty())
         candidates.push_back(sourceFolder);
