@@ -1,5 +1,7 @@
 #include "FieldReader.h"
 
+#include "platform/FileSystem.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -32,7 +34,7 @@ FieldReader::~FieldReader()
 bool FieldReader::open(const std::string& path)
 {
     close();
-    file_ = std::fopen(path.c_str(), "rb");
+    file_ = OpenFile(path, "rb");
     return file_ != nullptr;
 }
 

@@ -1,5 +1,7 @@
 #include "FileHandles.h"
 
+#include "platform/FileSystem.h"
+
 namespace vistrel {
 
 FileHandles::Handle::~Handle()
@@ -28,7 +30,7 @@ bool FileHandles::open(int handle, const std::string& path, Mode mode)
         if (!h->appended.open(path))
             return false;
     } else {
-        h->out = std::fopen(path.c_str(), "wb");
+        h->out = OpenFile(path, "wb");
         if (!h->out)
             return false;
     }

@@ -9,6 +9,7 @@
 #include "Station.h"
 #include "Text.h"
 #include "autorefractor/Frm_Autorefractor.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 #include "platform/SerialPort.h"
 
@@ -50,7 +51,7 @@ void Frm_Vistrel::ReadOptionsFile()
         const std::string folder = OptionsFolder();
         if (!DirectoryExists(folder)) {
             std::error_code ec;
-            std::filesystem::create_directories(platform().nativePath(folder), ec);
+            std::filesystem::create_directories(FsPath(platform().nativePath(folder)), ec);
         }
         const std::string sep(1, platform().pathSeparator());
         OptionsFileName = folder + sep + "Vistrel-Options.txt";

@@ -7,6 +7,7 @@
 #include "Numbers.h"
 #include "Station.h"
 #include "autorefractor/Frm_Autorefractor.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 #include "platform/SerialPort.h"
 
@@ -190,11 +191,11 @@ void Frm_ProgramOptions::WriteOptionsFile(const std::string& line)
     const std::string folder = v.OptionsFolder();
     std::error_code ec;
     if (!v.DirectoryExists(folder))
-        std::filesystem::create_directories(platform().nativePath(folder), ec);
+        std::filesystem::create_directories(FsPath(platform().nativePath(folder)), ec);
     const std::string file = folder + platform().pathSeparator() + "Vistrel-Options.txt";
     const std::string native = platform().nativePath(file);
     platform().setFileAttributes(native, 0);
-    std::filesystem::remove(native, ec);
+    std::filesystem::remove(FsPath(native), ec);
     if (files.open(handle, native, FileHandles::Mode::Output)) {
         files.printLine(handle, line);
         files.close(handle);

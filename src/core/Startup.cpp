@@ -3,6 +3,7 @@
 #include "Numbers.h"
 #include "Screens.h"
 #include "Station.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 #include "platform/SerialPort.h"
 
@@ -87,7 +88,7 @@ void Frm_Vistrel::Form_Load()
     InventoryLocation = PathIn(GetMyDocumentsDirectory(), "Vistrel");
     if (!DirectoryExists(InventoryLocation)) {
         std::error_code ec;
-        fs::create_directories(platform().nativePath(InventoryLocation), ec);
+        fs::create_directories(FsPath(platform().nativePath(InventoryLocation)), ec);
     }
 
     // 10.
@@ -212,13 +213,13 @@ std::string Frm_Vistrel::GetMyDocumentsDirectory()
 bool Frm_Vistrel::DirectoryExists(const std::string& path)
 {
     std::error_code ec;
-    return fs::is_directory(platform().nativePath(path), ec);
+    return fs::is_directory(FsPath(platform().nativePath(path)), ec);
 }
 
 bool Frm_Vistrel::FileExists(const std::string& path)
 {
     std::error_code ec;
-    const auto status = fs::status(platform().nativePath(path), ec);
+    const auto status = fs::status(FsPath(platform().nativePath(path)), ec);
     return !ec && fs::exists(status) && !fs::is_directory(status);
 }
 

@@ -11,31 +11,10 @@
 #include "inventory/Frm_ReadingGlasses.h"
 #include "inventory/InventoryRecordKind.h"
 #include "inventory/StockCells.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 
-#include <cerrno>
-#include <cstdio>
-
 namespace vistrel {
-
-namespace {
-
-// An open that fails because the device isn't ready, as a removed disk.
-bool deviceNotReady(const std::string& path)
-{
-    std::FILE* f = std::fopen(path.c_str(), "rb");
-    if (f) {
-        std::fclose(f);
-        return false;
-    }
-    return errno == EIO || errno == ENXIO || errno == ENODEV
-#ifdef ENOMEDIUM
-        || errno == ENOMEDIUM
-#endif
-        ;
-}
-
-}  // namespace
 
 void Frm_Vistrel::Get_Readings()
 {
@@ -45,7 +24,7 @@ void Frm_Vistrel::Get_Readings()
     // 1, 2.
     const std::int16_t handle = static_cast<std::int16_t>(files.freeFile());
     const std::string inventoryFile = platform().nativePath(PathIn(InventoryLocation, "Total_Inventory.txt"));
-    if (!files.open(handle, inventoryFile, FileHandles::Mode::Input) && deviceNotReady(inventoryFile)) {
+    if (!files.open(handle, inventoryFile, FileHandles::Mode::Input) && DeviceNotReady(inventoryFile)) {
         platform().messageBox(
             "Vistrel", "Cannot open Total_Inventory.txt File, Must place one at: " + InventoryLocation, MsgIcon::None);
         platform().endProcess();

@@ -10,6 +10,7 @@
 #include "core/Numbers.h"
 #include "core/Station.h"
 #include "core/Text.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 #include "wizard/Frm_Advisor.h"
 
@@ -140,8 +141,8 @@ void Frm_Vistrel::LoadPractice()
         const std::string readings = platform().nativePath(PathIn(folder, ReadingsFileName));
         const std::string practice = platform().nativePath(PathIn(folder, PracticeReadingsFileName));
         std::error_code ignored;
-        if (fs::exists(readings, ignored) && !fs::exists(practice, ignored))
-            fs::copy_file(readings, practice, ignored);
+        if (fs::exists(FsPath(readings), ignored) && !fs::exists(FsPath(practice), ignored))
+            fs::copy_file(FsPath(readings), FsPath(practice), ignored);
         return files.open(AutoFileNum, practice, FileHandles::Mode::Input);
     };
     bool opened = false;

@@ -8,6 +8,7 @@
 #include "core/Frm_Vistrel.h"
 #include "core/Numbers.h"
 #include "core/Station.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 
 #include <filesystem>
@@ -59,7 +60,7 @@ std::string DeletedBackupName(std::string_view deletedFileName, const DateTime& 
 bool SiteScriptRunnable(const std::string& nativePath)
 {
     std::error_code ec;
-    const fs::file_status status = fs::status(nativePath, ec);
+    const fs::file_status status = fs::status(FsPath(nativePath), ec);
     if (ec || !fs::is_regular_file(status))
         return false;
 #ifdef _WIN32
@@ -76,9 +77,9 @@ void Frm_Vistrel::SaveDeletedRejectedInventory_Click()
     // deleted whether or not the copy could be made.
     const std::string current = platform().nativePath(DeletedFileName);
     std::error_code ignored;
-    fs::copy_file(current, platform().nativePath(DeletedBackupName(DeletedFileName, platform().now())),
+    fs::copy_file(FsPath(current), FsPath(platform().nativePath(DeletedBackupName(DeletedFileName, platform().now()))),
         fs::copy_options::overwrite_existing, ignored);
-    fs::remove(current, ignored);
+    fs::remove(FsPath(current), ignored);
 
     // 3 to 6. One record per pair removed or refused: the bag number is
     // negative for a refused pair still in stock, and field 16 carries the

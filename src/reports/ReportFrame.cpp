@@ -4,6 +4,7 @@
 #include "core/FileHandles.h"
 #include "core/Frm_Vistrel.h"
 #include "core/Station.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 
 #include <filesystem>
@@ -18,7 +19,7 @@ ReportFrame::ReportFrame(Frm_Vistrel& v) : v_(v), files_(v.station().files())
     v.ReportFileNum = static_cast<std::int16_t>(handle_);
     const std::string path = platform.nativePath(v.ReportFileName);
     std::error_code ignored;
-    std::filesystem::remove(path, ignored);
+    std::filesystem::remove(FsPath(path), ignored);
     files_.open(handle_, path, FileHandles::Mode::Append);
 }
 

@@ -5,6 +5,7 @@
 #include "core/Frm_Vistrel.h"
 #include "core/Numbers.h"
 #include "core/Station.h"
+#include "platform/FileSystem.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@ void Frm_Vistrel::SaveUNMatchedMeasurementsFile_Click()
     UnMatchedFileNum = static_cast<std::int16_t>(files.freeFile());
     const std::string path = platform().nativePath(UnMatchedFileName);
     std::error_code ignored;
-    std::filesystem::remove(path, ignored);
+    std::filesystem::remove(FsPath(path), ignored);
     files.open(UnMatchedFileNum, path, FileHandles::Mode::Append);
 
     // Each eye as sphere, cylinder, axis and the distance between the

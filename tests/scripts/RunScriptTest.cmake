@@ -1,7 +1,12 @@
 # Runs one script test:
 #   cmake -DDRIVER=<vistrel-script> -DCASE_DIR=<folder> -DNAME=<case>
 #         -DWORK=<fresh folder> -DNOW=<frozen time> -P RunScriptTest.cmake
-# Needs only cmake and diff.
+# Needs only cmake and diff. Optional, for a driver built for Windows:
+#   -DEMULATOR=<command;args>  runs the driver through it (wine on Linux)
+#   -DWINDOWS_PATHS=ON         hands the driver its folders and files as
+#                              Windows paths, "Z:\tmp\..." for "/tmp/..."
+#   -DUPPER_CASE_NAMES=ON      gives the case's input files their names in
+#                              capitals (for a system that folds case)
 
 foreach(var DRIVER CASE_DIR NAME WORK NOW)
     if(NOT DEFINED ${var})
@@ -13,9 +18,23 @@ set(case ${CASE_DIR}/${NAME})
 set(docs ${WORK}/docs)
 set(shared ${WORK}/shared)
 
+# A path as the driver takes it: with backslashes on Windows, where wine
+# shows the host's root as drive Z:.
+function(driver_path out path)
+    if(WINDOWS_PATHS)
+        if(path MATCHES "^/")
+            set(path "Z:${path}")
+        endif()
+        string(REPLACE "/" "\\" path "${path}")
+    endif()
+    set(${out} "${path}" PARENT_SCOPE)
+endfunction()
+
 # A fresh folder for every run; the driver may have left files read-only.
 if(EXISTS ${WORK})
-    execute_process(COMMAND chmod -R u+rwX ${WORK})
+    if(CMAKE_HOST_UNIX)
+        execute_process(COMMAND chmod -R u+rwX ${WORK})
+    endif()
     file(REMOVE_RECURSE ${WORK})
 endif()
 file(MAKE_DIRECTORY ${docs} ${shared})
@@ -26,12 +45,25 @@ endif()
 if(IS_DIRECTORY ${case}.shared)
     file(COPY ${case}.shared/ DESTINATION ${shared})
 endif()
-
-set(command ${DRIVER} --documents ${docs} --shared ${shared} --now ${NOW})
-if(EXISTS ${case}.print.expected)
-    list(APPEND command --print-to ${WORK}/print.txt)
+if(UPPER_CASE_NAMES)
+    file(GLOB_RECURSE inputs ${docs}/* ${shared}/*)
+    foreach(input ${inputs})
+        get_filename_component(folder ${input} DIRECTORY)
+        get_filename_component(name ${input} NAME)
+        string(TOUPPER "${name}" upper)
+        file(RENAME ${input} ${folder}/${upper})
+    endforeach()
 endif()
-list(APPEND command ${case}.vs)
+
+driver_path(docs_arg ${docs})
+driver_path(shared_arg ${shared})
+driver_path(print_arg ${WORK}/print.txt)
+driver_path(script_arg ${case}.vs)
+set(command ${EMULATOR} ${DRIVER} --documents ${docs_arg} --shared ${shared_arg} --now ${NOW})
+if(EXISTS ${case}.print.expected)
+    list(APPEND command --print-to ${print_arg})
+endif()
+list(APPEND command ${script_arg})
 
 execute_process(COMMAND ${command}
     WORKING_DIRECTORY ${WORK}

@@ -4,6 +4,8 @@
 // file that can't be read.
 
 #include "InventoryCheck.h"
+#include "platform/FileSystem.h"
+#include "platform/ProgramStart.h"
 
 #include <charconv>
 #include <cstdio>
@@ -52,9 +54,9 @@ const char* const Help = "Checks \"Total_Inventory.txt\" before a mission. The f
 bool readWhole(const std::string& path, std::string& text)
 {
     std::error_code ec;
-    if (std::filesystem::is_directory(path, ec))
+    if (std::filesystem::is_directory(vistrel::FsPath(path), ec))
         return false;
-    std::FILE* f = std::fopen(path.c_str(), "rb");
+    std::FILE* f = vistrel::OpenFile(path, "rb");
     if (!f)
         return false;
     char buffer[1 << 16];
@@ -87,11 +89,13 @@ int usageError(const std::string& why)
 
 int main(int argc, char** argv)
 {
+    vistrel::UseBinaryStandardStreams();
+    const std::vector<std::string> args = vistrel::ProgramArguments(argc, argv);
     vistrel::check::CheckOptions options;
     std::vector<std::string> files;
     bool optionsDone = false;
-    for (int i = 1; i < argc; ++i) {
-        const std::string arg = argv[i];
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& arg = args[i];
         if (optionsDone || arg.empty() || arg[0] != '-' || arg == "-") {
             files.push_back(arg);
         } else if (arg == "--") {
@@ -102,9 +106,9 @@ int main(int argc, char** argv)
         } else if (arg == "--highest" || arg.rfind("--highest=", 0) == 0) {
             std::string value;
             if (arg == "--highest") {
-                if (i + 1 >= argc)
+                if (i + 1 >= args.size())
                     return usageError("--highest needs a number");
-                value = argv[++i];
+                value = args[++i];
             } else {
                 value = arg.substr(10);
             }

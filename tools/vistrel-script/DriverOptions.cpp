@@ -65,6 +65,12 @@ std::string defaultDocumentsFolder(const Environment& env)
         return *v;
     if (auto v = nonEmpty(env, "XDG_DOCUMENTS_DIR"))
         return *v;
+#ifdef _WIN32
+    // Windows names the user's profile; HOME is there only under a POSIX shell.
+    if (!nonEmpty(env, "HOME"))
+        if (auto v = nonEmpty(env, "USERPROFILE"))
+            return *v + "\\Documents";
+#endif
     return home(env) + "/Documents";
 }
 
@@ -74,6 +80,12 @@ std::string defaultSharedFolder(const Environment& env)
         return *v;
     if (auto v = nonEmpty(env, "XDG_DATA_HOME"))
         return *v + "/vistrel";
+#ifdef _WIN32
+    // Where the window program keeps it there too.
+    if (!nonEmpty(env, "HOME"))
+        if (auto v = nonEmpty(env, "LOCALAPPDATA"))
+            return *v + "\\vistrel";
+#endif
     return home(env) + "/.local/share/vistrel";
 }
 

@@ -26,7 +26,8 @@ using Environment = std::function<std::optional<std::string>(const std::string& 
 
 // The folders when the command line names none: VISTREL_DOCUMENTS or
 // VISTREL_SHARED, else the desktop's own places (the shared one with
-// "/vistrel" appended).
+// "/vistrel" appended); on Windows without HOME, the profile's Documents
+// and LOCALAPPDATA's "vistrel", as the window program has them.
 std::string defaultDocumentsFolder(const Environment& env);
 std::string defaultSharedFolder(const Environment& env);
 

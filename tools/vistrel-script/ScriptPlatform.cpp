@@ -1,11 +1,13 @@
 #include "ScriptPlatform.h"
 
 #include "Escape.h"
+#include "platform/FileSystem.h"
 #include "platform/PathMapping.h"
 #include "core/screen/Control.h"
 #include "core/screen/Form.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -67,9 +69,12 @@ void ScriptPlatform::shell(const std::string& what)
 // A path of the run differs from one machine to the next; the output shows
 // the documents and shared folders and the program's own folder as
 // <documents>, <shared> and <program>. A folder inside another is named
-// first, so that the outer one doesn't swallow it.
+// first, so that the outer one doesn't swallow it. The rest of such a path,
+// up to the line's end, is shown with "/" between its names on every
+// system, so that one expected output fits Windows too.
 std::string ScriptPlatform::withFolderNames(std::string text) const
 {
+    const char separator = pathSeparator();
     std::pair<const std::string*, const char*> folders[] = {{&settings_.documentsFolder, "<documents>"},
         {&settings_.sharedFolder, "<shared>"}, {&settings_.programFolder, "<program>"}};
     std::stable_sort(std::begin(folders), std::end(folders),
@@ -81,6 +86,15 @@ std::string ScriptPlatform::withFolderNames(std::string text) const
         for (size_t at = text.find(*folder); at != std::string::npos; at = text.find(*folder, at + shown.size()))
             text.replace(at, folder->size(), shown);
     }
+    // Only once every folder is named: a line may hold two of them.
+    if (separator != '/') {
+        for (const std::string_view name : {"<documents>", "<shared>", "<program>"}) {
+            for (size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + 1))
+                for (size_t i = at; i < text.size() && text[i] != '\r' && text[i] != '\n'; ++i)
+                    if (text[i] == separator)
+                        text[i] = '/';
+        }
+    }
     return text;
 }
 
@@ -90,30 +104,54 @@ DateTime ScriptPlatform::now()
         return *settings_.frozenNow;
     const std::time_t t = std::time(nullptr);
     std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &t);
+#else
     localtime_r(&t, &local);
+#endif
     return DateTime{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
         local.tm_sec};
 }
 
+// Whether a path lies in the documents, shared or program folder, compared
+// as Windows compares names: without case, either slash.
+bool ScriptPlatform::inRunFolder(const std::string& path) const
+{
+    const auto same = [](char a, char b) {
+        if (a == '\\')
+            a = '/';
+        if (b == '\\')
+            b = '/';
+        return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+    };
+    for (const std::string* folder : {&settings_.documentsFolder, &settings_.sharedFolder, &settings_.programFolder}) {
+        if (folder->empty() || path.size() < folder->size()
+            || !std::equal(folder->begin(), folder->end(), path.begin(), same))
+            continue;
+        if (path.size() == folder->size() || path[folder->size()] == '/' || path[folder->size()] == '\\'
+            || folder->back() == '/' || folder->back() == '\\')
+            return true;
+    }
+    return false;
+}
+
+// The station's fixed places on a drive ("C:\NetworkJournal") live in the
+// shared folder, so that a run touches nothing outside its own folders.
+// Where drive letters are real, the run's folders carry one too: those are
+// used as they stand.
 std::string ScriptPlatform::nativePath(const std::string& path)
 {
-    if (!hasDriveLetter(path))
+    if (!hasDriveLetter(path) || inRunFolder(path))
         return path;
     // The root of a drive always exists where drives are real.
     std::error_code ignored;
-    std::filesystem::create_directories(driveRootFolder(sharedDataFolder(), path[0]), ignored);
+    std::filesystem::create_directories(FsPath(driveRootFolder(sharedDataFolder(), path[0])), ignored);
     return mapDriveLetterPath(path, sharedDataFolder());
 }
 
 void ScriptPlatform::setFileAttributes(const std::string& path, int attributes)
 {
-    namespace fs = std::filesystem;
-    std::error_code ignored;
-    if (attributes & 1)
-        fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
-            fs::perm_options::remove, ignored);
-    else
-        fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);
+    SetFileFlags(path, (attributes & 1) != 0, (attributes & 2) != 0);
 }
 
 void ScriptPlatform::endProcess()

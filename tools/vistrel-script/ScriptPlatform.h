@@ -46,7 +46,15 @@ public:
     std::string sharedDataFolder() override { return settings_.sharedFolder; }
     std::string programFolder() override { return settings_.programFolder; }
     std::string nativePath(const std::string& path) override;
-    char pathSeparator() const override { return '/'; }
+    // The separator the station uses on this system, as the window program's.
+    char pathSeparator() const override
+    {
+#ifdef _WIN32
+        return '\\';
+#else
+        return '/';
+#endif
+    }
     void setFileAttributes(const std::string& path, int attributes) override;
 
     std::string commandLine() override { return commandLine_; }
@@ -69,6 +77,7 @@ public:
 
 private:
     std::string withFolderNames(std::string text) const;
+    bool inRunFolder(const std::string& path) const;
 
     Output* out_;
     PlatformSettings settings_;

@@ -8,9 +8,9 @@
 #include "ScriptPlatform.h"
 #include "ScriptRunner.h"
 #include "core/Station.h"
+#include "platform/FileSystem.h"
+#include "platform/ProgramStart.h"
 
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -25,22 +25,6 @@ constexpr const char* usage =
     "usage: vistrel-script [--documents DIR] [--shared DIR] [--now \"YYYY-MM-DD HH:MM:SS\"] "
     "[--print-to FILE] SCRIPT\n";
 
-std::optional<std::string> environment(const std::string& name)
-{
-    const char* v = std::getenv(name.c_str());
-    return v ? std::optional<std::string>(v) : std::nullopt;
-}
-
-std::string programFolder(const char* argv0)
-{
-    namespace fs = std::filesystem;
-    std::error_code ec;
-    fs::path exe = fs::read_symlink("/proc/self/exe", ec);
-    if (ec)
-        exe = fs::absolute(argv0 ? argv0 : ".", ec);
-    return exe.parent_path().string();
-}
-
 std::vector<std::string> readLines(std::istream& in)
 {
     std::vector<std::string> lines;
@@ -54,9 +38,10 @@ std::vector<std::string> readLines(std::istream& in)
 
 int main(int argc, char** argv)
 {
+    UseBinaryStandardStreams();
     DriverOptions options;
     try {
-        options = parseDriverOptions(std::vector<std::string>(argv + 1, argv + argc));
+        options = parseDriverOptions(ProgramArguments(argc, argv));
     } catch (const std::invalid_argument& e) {
         std::cerr << "vistrel-script: " << e.what() << '\n' << usage;
         return 2;
@@ -66,7 +51,7 @@ int main(int argc, char** argv)
     if (options.script == "-") {
         lines = readLines(std::cin);
     } else {
-        std::ifstream file(options.script, std::ios::binary);
+        std::ifstream file(FsPath(options.script), std::ios::binary);
         if (!file) {
             std::cerr << "vistrel-script: cannot read " << options.script << '\n';
             return 2;
@@ -76,7 +61,7 @@ int main(int argc, char** argv)
 
     std::ofstream printFile;
     if (options.printTo) {
-        printFile.open(*options.printTo, std::ios::binary | std::ios::trunc);
+        printFile.open(FsPath(*options.printTo), std::ios::binary | std::ios::trunc);
         if (!printFile) {
             std::cerr << "vistrel-script: cannot write " << *options.printTo << '\n';
             return 2;
@@ -85,9 +70,9 @@ int main(int argc, char** argv)
 
     Output out(std::cout);
     PlatformSettings settings;
-    settings.documentsFolder = options.documents.value_or(defaultDocumentsFolder(environment));
-    settings.sharedFolder = options.shared.value_or(defaultSharedFolder(environment));
-    settings.programFolder = programFolder(argc > 0 ? argv[0] : nullptr);
+    settings.documentsFolder = options.documents.value_or(defaultDocumentsFolder(EnvironmentVariable));
+    settings.sharedFolder = options.shared.value_or(defaultSharedFolder(EnvironmentVariable));
+    settings.programFolder = ProgramFolder(argc > 0 ? argv[0] : nullptr);
     settings.frozenNow = options.now;
     ScriptPlatform platform(out, settings);
     platform.textPrinter().setSink(options.printTo ? &printFile : nullptr);
