@@ -16,6 +16,14 @@ VISTREL_APT_PACKAGES=(
     xauth
 )
 
+# What the release checks need beyond that: dpkg-dev and desktop-file-utils
+# for the package (scripts/package.sh).
+# shellcheck disable=SC2034  # used by .ci/run
+VISTREL_RELEASE_PACKAGES=(
+    dpkg-dev
+    desktop-file-utils
+)
+
 # The repository root: the parent of this file's folder, fixed when sourced.
 # shellcheck disable=SC2034  # used by the scripts that source this file
 VISTREL_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
