@@ -101,7 +101,8 @@ FormWindow::FormWindow(Form& form, Kind kind, const Metrics& metrics, QWidget* p
     if (kind == Kind::MainWindow) {
         auto* main = new MainFormWindow(closeBox, parent);
         main->setCentralWidget(scroll_);
-        scroll_->viewport()->installEventFilter(this);
+        scrollViewport_ = scroll_->viewport();
+        scrollViewport_->installEventFilter(this);
         menus_.build(form.controls(), main->menuBar());
         window_ = main;
     } else {
@@ -234,7 +235,7 @@ void FormWindow::spreadIntoView()
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == scroll_->viewport() && event->type() == QEvent::Resize && kind_ == Kind::MainWindow
+    if (watched == scrollViewport_ && event->type() == QEvent::Resize && kind_ == Kind::MainWindow
         && designedClient_.isValid())
         spreadIntoView();
     return QObject::eventFilter(watched, event);

@@ -78,6 +78,7 @@ private:
     Metrics metrics_;
     QPointer<QWidget> window_;
     QScrollArea* scroll_ = nullptr;
+    QWidget* scrollViewport_ = nullptr;  // see ListBinding::viewport_
     QWidget* canvas_ = nullptr;
     ControlBinder binder_;
     MenuBuilder menus_;

@@ -61,7 +61,8 @@ GridBinding::GridBinding(Grid& grid, QWidget* parent, const Metrics& metrics)
             bringRowIntoView(current.row());
             grid_.moveTo(GridModel::gridRow(current), GridModel::gridCol(current));
         });
-    view_->viewport()->installEventFilter(this);
+    viewport_ = view_->viewport();
+    viewport_->installEventFilter(this);
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &GridBinding::scrolled);
     connect(view_->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
         // The first scrolled row set before the view had its size.
@@ -206,7 +207,7 @@ void GridBinding::focusChanged(QWidget* now)
 
 bool GridBinding::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == view_->viewport()) {
+    if (watched == viewport_) {
         // A click is a press on a cell and a release within the grid; the
         // press has made the cell current already.
         switch (event->type()) {

@@ -55,6 +55,9 @@ private:
 
     Grid& grid_;
     QTableView* view_;
+    // Held apart from the view: the viewport's last events come while the
+    // view is being destroyed, when it can no longer be asked for it.
+    QWidget* viewport_ = nullptr;
     GridModel* model_;
     // Set while the core's first scrolled row is being shown, so that the
     // view's scroll is not handed back.

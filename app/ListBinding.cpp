@@ -35,7 +35,8 @@ ListBinding::ListBinding(ListBox& list, QWidget* parent, const Metrics& metrics)
     view_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     view_->setTextElideMode(Qt::ElideNone);
-    view_->viewport()->installEventFilter(this);
+    viewport_ = view_->viewport();
+    viewport_->installEventFilter(this);
     view_->installEventFilter(this);
 
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -56,7 +57,7 @@ ListBinding::ListBinding(ListBox& list, QWidget* parent, const Metrics& metrics)
 
 bool ListBinding::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == view_->viewport()) {
+    if (watched == viewport_) {
         if (event->type() == QEvent::MouseButtonPress)
             mousePress_ = true;
         else if (event->type() == QEvent::MouseButtonRelease)

@@ -51,6 +51,9 @@ private:
 
     ListBox& list_;
     QListView* view_;
+    // Held apart from the view: the viewport's last events come while the
+    // view is being destroyed, when it can no longer be asked for it.
+    QWidget* viewport_ = nullptr;
     ListModel* model_;
     bool mousePress_ = false;
 };
