@@ -1,0 +1,2 @@
+print Frm_About.Cmd_Exit.Caption
+print Frm_About.Cmd_Exit.Colour

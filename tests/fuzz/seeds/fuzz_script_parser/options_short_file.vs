@@ -1,0 +1,25 @@
+# An older, shorter options file: only records 1 to 10. The later records
+# read empty and take their defaults.
+start
+print Frm_ProgramOptions.Chk_IncludeEither
+print Frm_ProgramOptions.Chk_UpTo50
+print Frm_ProgramOptions.Txt_NetworkJournalPath
+print Frm_ProgramOptions.Chk_PrintPrescription
+print Frm_Vistrel.Chk_Prescription
+print Frm_ProgramOptions.Chk_AutoSearch
+print Frm_ProgramOptions.Chk_ConfidenceLevel
+print Frm_ProgramOptions.Chk_AutoSearchWhenRead
+print Frm_ProgramOptions.Chk_PrintGlassesPrescriptions
+print Frm_ProgramOptions.Chk_VarnRule
+print Frm_ProgramOptions.Chk_ReadingGlasses
+print Frm_ProgramOptions.Chk_LensFrames
+print Frm_ProgramOptions.Chk_EnableNetJournal
+print Frm_ProgramOptions.Chk_ShowLevel
+print Frm_ProgramOptions.Txt_YearsOverMinus
+print Frm_ProgramOptions.Txt_HighestInventoryNumber
+print Frm_ProgramOptions.Txt_From(4)
+print Frm_ProgramOptions.Txt_To(4)
+print Frm_ProgramOptions.Txt_Add(4)
+print Frm_Vistrel.PrintPrescription
+print Frm_Vistrel.AutoSearch
+print Frm_Vistrel.Txt_Status
