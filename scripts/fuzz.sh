@@ -47,6 +47,9 @@ for target in "${targets[@]}"; do
         fi
     done
     options=(-max_total_time="$seconds" -print_final_stats=1 -timeout=30 -artifact_prefix="$findings/")
+    # A station keeps what it read for the next input, so the memory in use
+    # after an input says nothing about leaks; the sanitizer suite checks them.
+    case "$target" in fuzz_decoder_*) ;; *) options+=(-detect_leaks=0) ;; esac
     if [ -f "tests/fuzz/dict/$target.dict" ]; then
         options+=(-dict="tests/fuzz/dict/$target.dict")
     fi

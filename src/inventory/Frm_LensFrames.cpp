@@ -88,9 +88,12 @@ void Frm_LensFrames::ComputeTotalLensFrames(int index, std::int16_t& result)
     MSF_GridLocked = Variant::boolean(true);
     Grid& grid = MSF_LensInventory(index);
     double sum = 0;
+    // Most cells hold "000"; reading each as a number was most of a load.
+    static const std::string none = "000";
     for (int r = 1; r < grid.rows(); ++r)
         for (int c = 1; c < grid.cols(); ++c)
-            sum += Val(grid.textMatrix(r, c));
+            if (const std::string& cell = grid.textMatrix(r, c); cell != none)
+                sum += Val(cell);
     MSF_GridLocked = kept;
     if (TextBox* total = lensTotal(index))
         total->setText(Format(sum, "000"));

@@ -1,10 +1,11 @@
 #pragma once
 
-// What the fuzz targets that run the whole station share: a platform that
+// What the fuzz targets that run the station share: a platform that
 // answers nothing and ends by throwing, the station's folders under one
 // temporary directory made once per process, small good options and
-// inventory texts, a start-up per input, and a few checks of the
-// tables that any start that came through must pass.
+// inventory texts, one station started over them whose readers run again
+// for each input, and a few checks of the tables that any read that came
+// through must leave.
 
 #include "core/Frm_Vistrel.h"
 #include "core/Station.h"
@@ -88,7 +89,7 @@ private:
 class FuzzFolders {
 public:
     explicit FuzzFolders(const std::string& tag)
-        : root_(fs::temp_directory_path() / ("vistrel-fuzz-" + tag + "-" + std::to_string(::getpid())))
+        : root_(scratch() / ("vistrel-fuzz-" + tag + "-" + std::to_string(::getpid())))
     {
         std::error_code ec;
         fs::remove_all(root_, ec);
@@ -103,6 +104,16 @@ public:
     }
     FuzzFolders(const FuzzFolders&) = delete;
     FuzzFolders& operator=(const FuzzFolders&) = delete;
+
+    // Files written for every input are best kept in memory: on a disk,
+    // truncating them costs more than the station's reading.
+    static fs::path scratch()
+    {
+        std::error_code ec;
+        if (!std::getenv("TMPDIR") && fs::is_directory("/dev/shm", ec))
+            return "/dev/shm";
+        return fs::temp_directory_path();
+    }
 
     const fs::path& root() const { return root_; }
     fs::path vistrel() const { return root_ / "docs" / "Vistrel"; }
@@ -152,54 +163,74 @@ inline const std::string& smallInventory()
 
 // A new station for every input when VISTREL_FUZZ_FRESH is set: exact, for
 // a finding's input, but a few dozen inputs a second, as a new station
-// builds its tables of 32000 rows.
+// builds its tables of 32000 rows. Otherwise a reader runs again on the
+// station the last input left.
 inline bool freshStations()
 {
     static const bool fresh = std::getenv("VISTREL_FUZZ_FRESH") != nullptr;
     return fresh;
 }
 
-// Puts the tables back as a new station has them. A load writes a row per
-// record, and every record takes at least a byte, so only the first `rows`
-// rows of the inventory tables can hold anything; the tables a journal or
-// a bag number reaches anywhere are cleared whole. Left out of the
-// coverage, which would count every row.
+// Puts the inventory tables back as a new station has them before a load.
+// A load writes a row per record, and every record takes at least a byte,
+// so only the first `rows` rows can hold anything; the places used are
+// marked by bag number, anywhere. Left out of the coverage, which would
+// count every row.
 __attribute__((no_sanitize("coverage"))) inline void clearTables(Frm_Vistrel& v, size_t rows)
 {
     rows = std::min(rows, v.Inv_Number.size());
     const auto top = static_cast<std::ptrdiff_t>(rows);
     auto clearTop = [top](auto& table, auto value) { std::fill(table.begin(), table.begin() + top, value); };
-    for (auto* t : {&v.Inv_LeftAxis, &v.Inv_RightAxis, &v.Inv_Gender})
+    for (auto* t : {&v.Inv_Number, &v.Inv_LeftAxis, &v.Inv_RightAxis, &v.Inv_Gender, &v.Inv_RejectCount})
         clearTop(*t, std::int16_t{0});
     for (auto* t : {&v.Inv_LeftSphere, &v.Inv_LeftCylinder, &v.Inv_RightSphere, &v.Inv_RightCylinder, &v.Inv_LeftAdd,
              &v.Inv_RightAdd})
         clearTop(*t, 0.0);
     for (auto* t : {&v.Inv_FieldsRead, &v.Inv_Sunglasses, &v.Inv_Reading, &v.Inv_SpareFlag, &v.Inv_Progressive,
-             &v.Inv_Bifocal})
+             &v.Inv_Bifocal, &v.Inv_Removed})
         clearTop(*t, false);
     for (auto* t : {&v.Inv_PD, &v.Inv_Comment, &v.Inv_Extra1, &v.Inv_Extra2})
         for (std::ptrdiff_t r = 0; r < top; ++r)
             (*t)[static_cast<size_t>(r)].clear();
-
-    for (auto* t : {&v.Inv_Number, &v.Inv_RejectCount, &v.Found_Number, &v.Found_Index, &v.Found_Gender})
-        std::fill(t->begin(), t->end(), std::int16_t{0});
-    std::fill(v.Inv_PersonNumber.begin(), v.Inv_PersonNumber.end(), 0);
-    for (auto* t : {&v.Found_Score, &v.Meas_LeftSphere, &v.Meas_LeftCylinder, &v.Meas_LeftAxis, &v.Meas_LeftAdd,
-             &v.Meas_LeftSphereEqu, &v.Meas_RightSphere, &v.Meas_RightCylinder, &v.Meas_RightAxis,
-             &v.Meas_RightAdd, &v.Meas_RightSphereEqu})
-        std::fill(t->begin(), t->end(), 0.0);
-    for (auto* t : {&v.Inv_Removed, &v.Inv_LocationUsed, &v.Found_Bifocal, &v.Found_Progressive, &v.Meas_Written})
-        std::fill(t->begin(), t->end(), false);
+    v.Inv_LocationUsed.assign(v.Inv_LocationUsed.size(), false);
 }
 
-// The station's folders and files, and the station started over them.
+// What a journal's replay writes over the loaded inventory, kept after a
+// load and put back before the next replay: dispensings reach any row by
+// bag number, measurements any row of theirs.
+class ReplayedTables {
+public:
+    explicit ReplayedTables(const Frm_Vistrel& v)
+        : personNumber_(v.Inv_PersonNumber), removed_(v.Inv_Removed), rejectCount_(v.Inv_RejectCount),
+          measurementsSaved_(v.MeasurementsSaved)
+    {
+    }
+    void restore(Frm_Vistrel& v) const
+    {
+        v.Inv_PersonNumber = personNumber_;
+        v.Inv_Removed = removed_;
+        v.Inv_RejectCount = rejectCount_;
+        v.MeasurementsSaved = measurementsSaved_;
+        v.Meas_Written.assign(v.Meas_Written.size(), false);
+    }
+
+private:
+    std::vector<std::int32_t> personNumber_;
+    std::vector<bool> removed_;
+    std::vector<std::int16_t> rejectCount_;
+    std::int16_t measurementsSaved_;
+};
+
+// The station's folders and files, a station started once over good ones,
+// and the station's readers run again on it for each input.
 class StationFixture {
 public:
-    StationFixture(const std::string& tag, std::string_view options, std::string_view inventory)
-        : folders(tag), platform(folders.root())
+    // The good options keep the network journal on or off, in the
+    // fixture's own network folder.
+    explicit StationFixture(const std::string& tag, bool networkJournal = false)
+        : folders(tag), platform(folders.root()), goodOptions_(goodOptions(networkJournal, folders.network())),
+          goodInventory_(smallInventory())
     {
-        writeOptions(options);
-        writeInventory(inventory);
     }
 
     void writeOptions(std::string_view bytes) { writeFile(folders.optionsFile(), bytes); }
@@ -209,39 +240,47 @@ public:
         inventoryBytes_ = bytes.size();
     }
 
-    // Starts the station over the files as they are now, as at a mission's
-    // morning; false when it ended the process. The first start (and, with
-    // VISTREL_FUZZ_FRESH, every start) makes a new station; after that the
-    // tables are cleared and the start-up runs again, which sets everything
-    // else it reads.
-    bool start()
-    {
-        try {
-            if (!station || freshStations()) {
-                station.reset();
-                station = std::make_unique<Station>(platform);
-                rowsUsed_ = inventoryBytes_ + 1;
-                station->start();
-            } else {
-                Frm_Vistrel& v = station->vistrel();
-                clearTables(v, rowsUsed_);
-                rowsUsed_ = inventoryBytes_ + 1;
-                v.VistrelFlag = false;
-                v.Form_Load();
-            }
-        } catch (const StationEnded&) {
-            return false;
-        }
-        return true;
-    }
-
-    // A station started once over good files, for targets that use it as
-    // it stands.
+    // The station started over the good files, as at a mission's morning.
+    // Made once; with VISTREL_FUZZ_FRESH, made anew for every input.
     Station& started()
     {
-        if (!station && !start())
-            std::abort();
+        if (station && !freshStations())
+            return *station;
+        station.reset();
+        writeOptions(goodOptions_);
+        writeInventory(goodInventory_);
+        station = std::make_unique<Station>(platform);
+        rowsLoaded_ = inventoryBytes_ + 1;
+        if (!run([this](Frm_Vistrel&) { station->start(); }))
+            std::abort();  // the good files must start a station
         return *station;
+    }
+
+    // One of the station's readers on the started station; false when it
+    // ended the process. The handles it left open are closed, as the
+    // process would have ended with them.
+    template <class Reader> bool run(Reader read)
+    {
+        bool ended = false;
+        try {
+            read(station->vistrel());
+        } catch (const StationEnded&) {
+            ended = true;
+        }
+        for (int handle = 1; handle <= 32; ++handle)
+            station->files().close(handle);
+        return !ended;
+    }
+
+    // The inventory file as it is now loaded into cleared tables, with the
+    // journals replayed over it, as the start-up does.
+    bool loadInventory()
+    {
+        Frm_Vistrel& v = started().vistrel();
+        clearTables(v, rowsLoaded_);
+        rowsLoaded_ = inventoryBytes_ + 1;
+        v.InventoryLoaded = false;
+        return run([](Frm_Vistrel& station) { station.Get_Readings(); });
     }
 
     FuzzFolders folders;
@@ -249,8 +288,10 @@ public:
     std::unique_ptr<Station> station;
 
 private:
+    std::string goodOptions_;
+    std::string goodInventory_;
     size_t inventoryBytes_ = 0;
-    size_t rowsUsed_ = 0;
+    size_t rowsLoaded_ = 0;
 };
 
 // What holds after any start that came through, however bad its files:

@@ -1,7 +1,6 @@
-// The inventory file loaded at start-up under fixed good options: pairs,
-// reading, lens and frame records in any order and any shape. The stock
-// lists are filled from the tables the load left, and one search runs
-// over them.
+// The inventory file loaded under fixed good options: pairs, reading, lens
+// and frame records in any order and any shape. The stock lists are filled
+// from the tables the load left, and one search runs over them.
 
 #include "FuzzStation.h"
 
@@ -9,11 +8,13 @@ using namespace vistrel::fuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static StationFixture fixture("inventory", goodOptions(), "");
+    static StationFixture fixture("inventory");
+    fixture.started();
     fixture.writeInventory(bytesOf(data, size));
-    if (!fixture.start())
+    if (!fixture.loadInventory())
         return 0;  // the load ends the station only on a disk that is not ready
     vistrel::Frm_Vistrel& v = fixture.station->vistrel();
+    v.ListInventory();
     checkTables(v);
 
     // A measurement close to most of the pairs the seeds hold.

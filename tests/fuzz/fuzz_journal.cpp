@@ -1,8 +1,8 @@
-// The journals replayed over a small fixed inventory: at start-up (the
-// local journal, then the network journal where it is on) and again by the
-// refresh of the persons list. The input is the local journal; where it
-// holds the separator line, what follows is the network journal and the
-// network journal is switched on.
+// The journals replayed over a small fixed inventory, the network journal
+// on: as at the load (the local journal, then the network journal) and
+// again by the refresh of the persons list. The input is the local journal; where
+// it holds the separator line, what follows is the network journal, and
+// without one the network folder has no journal, as when it is down.
 
 #include "FuzzStation.h"
 
@@ -16,30 +16,28 @@ constexpr std::string_view Separator = "\n--network--\n";
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static StationFixture fixture("journal", goodOptions(), smallInventory());
-    static const std::string networkOptions = goodOptions(true, fixture.folders.network());
-    static const std::string localOptions = goodOptions();
+    static StationFixture fixture("journal", true);
+    vistrel::Frm_Vistrel& v = fixture.started().vistrel();
+    static const ReplayedTables loaded(v);
 
     const std::string_view input = bytesOf(data, size);
     const size_t split = input.find(Separator);
-    const bool networked = split != std::string_view::npos;
-    fixture.writeOptions(networked ? networkOptions : localOptions);
     writeFile(fixture.folders.localJournal(), input.substr(0, split));
     std::error_code ignored;
-    if (networked)
+    if (split != std::string_view::npos)
         writeFile(fixture.folders.networkJournal(), input.substr(split + Separator.size()));
     else
         std::filesystem::remove(fixture.folders.networkJournal(), ignored);
 
-    if (!fixture.start())
+    loaded.restore(v);
+    const bool replayed = fixture.run([](vistrel::Frm_Vistrel& station) {
+        station.LoadJournalFile("LOCAL");
+        station.LoadJournalFile("NETWORK");
+    });
+    if (!replayed)
         return 0;  // a bad measurement record may end the station
-    vistrel::Frm_Vistrel& v = fixture.station->vistrel();
     checkTables(v);
-    try {
-        v.Cmd_ListPersons_Click();
-    } catch (const StationEnded&) {
-        return 0;
-    }
-    checkTables(v);
+    if (fixture.run([](vistrel::Frm_Vistrel& station) { station.Cmd_ListPersons_Click(); }))
+        checkTables(v);
     return 0;
 }

@@ -37,7 +37,7 @@ void look(const script::Statement& st, const script::FormLookup& forms)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static StationFixture fixture("script", goodOptions(), smallInventory());
+    static StationFixture fixture("script");
     static const script::FormLookup forms = [&station = fixture.started()](const std::string& name) {
         return station.form(name);
     };
