@@ -17,11 +17,15 @@ VISTREL_APT_PACKAGES=(
 )
 
 # What the release checks need beyond that: dpkg-dev and desktop-file-utils
-# for the package (scripts/package.sh).
+# for the package (scripts/package.sh), clang and its fuzzer runtime for the
+# fuzz targets (scripts/fuzz.sh).
 # shellcheck disable=SC2034  # used by .ci/run
 VISTREL_RELEASE_PACKAGES=(
     dpkg-dev
     desktop-file-utils
+    clang
+    libfuzzer-14-dev
+    libclang-rt-14-dev
 )
 
 # The repository root: the parent of this file's folder, fixed when sourced.
