@@ -1,11 +1,10 @@
 #pragma once
 
 #include "BenchFiles.h"
+#include "NullDevices.h"
 #include "core/Screens.h"
 #include "core/Station.h"
 #include "platform/Platform.h"
-#include "platform/Printer.h"
-#include "platform/SerialPort.h"
 
 #include <filesystem>
 #include <memory>
@@ -36,26 +35,9 @@ public:
     [[noreturn]] void endProcess() override;
 
 private:
-    class Port : public SerialPort {
-        bool openPort() override { return true; }
-        void closePort() override {}
-        bool isOpen() const override { return true; }
-        std::string readAll() override { return {}; }
-        void write(const std::string&) override {}
-    };
-    class NoPrinter : public Printer {
-        void setFontName(const std::string&) override {}
-        void setFontSize(double) override {}
-        void setFontBold(bool) override {}
-        void setFontUnderline(bool) override {}
-        void print(const std::string&, bool) override {}
-        void newPage() override {}
-        void endDoc() override {}
-        bool choose(const std::string&) override { return false; }
-    };
     std::filesystem::path root_;
-    Port port_;
-    NoPrinter printer_;
+    test::NullSerialPort port_{true};
+    test::NullPrinter printer_;
 };
 
 // A station on prepared folders, started at once.

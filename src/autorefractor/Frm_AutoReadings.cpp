@@ -13,15 +13,11 @@ namespace vistrel {
 Frm_AutoReadings::Frm_AutoReadings(Station& station) : Screen(station, "Frm_AutoReadings")
 {
     design();
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    click(Cmd_Exit, "Cmd_Exit_Click", [this] { Cmd_Exit_Click(); });
-    click(Chk_SortPerson, "Chk_SortPerson_Click", [this] { Chk_SortPerson_Click(); });
-    click(Lst_AutorefractorReadings, "Lst_AutorefractorReadings_Click",
+    wireClick(Cmd_Exit, "Cmd_Exit_Click", [this] { Cmd_Exit_Click(); });
+    wireClick(Chk_SortPerson, "Chk_SortPerson_Click", [this] { Chk_SortPerson_Click(); });
+    wireClick(Lst_AutorefractorReadings, "Lst_AutorefractorReadings_Click",
         [this] { Lst_AutorefractorReadings_Click(); });
-    click(Lst_AutorefractorReadingsSorted, "Lst_AutorefractorReadingsSorted_Click",
+    wireClick(Lst_AutorefractorReadingsSorted, "Lst_AutorefractorReadingsSorted_Click",
         [this] { Lst_AutorefractorReadingsSorted_Click(); });
     onActivate = [this] { Form_Activate(); };
     op("Form_Activate", [this] { Form_Activate(); });

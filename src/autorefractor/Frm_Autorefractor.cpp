@@ -29,27 +29,19 @@ Frm_Autorefractor::Frm_Autorefractor(Station& station) : Screen(station, "Frm_Au
 
 void Frm_Autorefractor::wireHandlers()
 {
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    auto change = [this](TextBox& t, const std::string& handler, std::function<void()> fn) {
-        t.onChange = fn;
-        op(handler, std::move(fn));
-    };
-    click(Cmd_AutoClearAll, "Cmd_AutoClearAll_Click", [this] { Cmd_AutoClearAll_Click(); });
-    click(Cmd_AutoClearLeft, "Cmd_AutoClearLeft_Click", [this] { Cmd_AutoClearLeft_Click(); });
-    click(Cmd_AutoClearRight, "Cmd_AutoClearRight_Click", [this] { Cmd_AutoClearRight_Click(); });
-    click(Cmd_AutoSearch, "Cmd_AutoSearch_Click", [this] { Cmd_AutoSearch_Click(); });
-    click(Cmd_HideAutorefractorDataCaptureForm, "Cmd_HideAutorefractorDataCaptureForm_Click",
+    wireClick(Cmd_AutoClearAll, "Cmd_AutoClearAll_Click", [this] { Cmd_AutoClearAll_Click(); });
+    wireClick(Cmd_AutoClearLeft, "Cmd_AutoClearLeft_Click", [this] { Cmd_AutoClearLeft_Click(); });
+    wireClick(Cmd_AutoClearRight, "Cmd_AutoClearRight_Click", [this] { Cmd_AutoClearRight_Click(); });
+    wireClick(Cmd_AutoSearch, "Cmd_AutoSearch_Click", [this] { Cmd_AutoSearch_Click(); });
+    wireClick(Cmd_HideAutorefractorDataCaptureForm, "Cmd_HideAutorefractorDataCaptureForm_Click",
         [this] { Cmd_HideAutorefractorDataCaptureForm_Click(); });
-    click(Cmd_LeftConfidenceUP, "Cmd_LeftConfidenceUP_Click", [this] { Cmd_LeftConfidenceUP_Click(); });
-    click(Cmd_LeftConfidenceDOWN, "Cmd_LeftConfidenceDOWN_Click", [this] { Cmd_LeftConfidenceDOWN_Click(); });
-    click(Cmd_RightConfidenceUP, "Cmd_RightConfidenceUP_Click", [this] { Cmd_RightConfidenceUP_Click(); });
-    click(Cmd_RightConfidenceDOWN, "Cmd_RightConfidenceDOWN_Click", [this] { Cmd_RightConfidenceDOWN_Click(); });
-    change(Txt_AutoReading, "Txt_AutoReading_Change", [this] { Txt_AutoReading_Change(); });
-    change(Txt_LeftConfidenceValue, "Txt_LeftConfidenceValue_Change", [this] { Txt_LeftConfidenceValue_Change(); });
-    change(Txt_RightConfidenceValue, "Txt_RightConfidenceValue_Change",
+    wireClick(Cmd_LeftConfidenceUP, "Cmd_LeftConfidenceUP_Click", [this] { Cmd_LeftConfidenceUP_Click(); });
+    wireClick(Cmd_LeftConfidenceDOWN, "Cmd_LeftConfidenceDOWN_Click", [this] { Cmd_LeftConfidenceDOWN_Click(); });
+    wireClick(Cmd_RightConfidenceUP, "Cmd_RightConfidenceUP_Click", [this] { Cmd_RightConfidenceUP_Click(); });
+    wireClick(Cmd_RightConfidenceDOWN, "Cmd_RightConfidenceDOWN_Click", [this] { Cmd_RightConfidenceDOWN_Click(); });
+    wireChange(Txt_AutoReading, "Txt_AutoReading_Change", [this] { Txt_AutoReading_Change(); });
+    wireChange(Txt_LeftConfidenceValue, "Txt_LeftConfidenceValue_Change", [this] { Txt_LeftConfidenceValue_Change(); });
+    wireChange(Txt_RightConfidenceValue, "Txt_RightConfidenceValue_Change",
         [this] { Txt_RightConfidenceValue_Change(); });
     for (int i = 0; i <= 1; ++i)
         Txt_AutoSphere[i].onDblClick = [this, i] { Txt_AutoSphere_DblClick(i); };

@@ -14,44 +14,40 @@ Frm_ProgramOptions::Frm_ProgramOptions(Station& station) : Screen(station, "Frm_
 {
     design();
 
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    click(Chk_AutoSearchWhenRead, "Chk_AutoSearchWhenRead_Click", [this] { Chk_AutoSearchWhenRead_Click(); });
-    click(Chk_IncludeEither, "Chk_IncludeEither_Click", [this] { Chk_IncludeEither_Click(); });
-    click(Chk_PrintPrescription, "Chk_PrintPrescription_Click", [this] { Chk_PrintPrescription_Click(); });
-    click(Chk_NoOverMinus, "Chk_NoOverMinus_Click", [this] { Chk_NoOverMinus_Click(); });
-    click(Chk_UpTo50, "Chk_UpTo50_Click", [this] { Chk_UpTo50_Click(); });
-    click(Chk_Diagnostic, "Chk_Diagnostic_Click", [this] { Chk_Diagnostic_Click(); });
-    click(Chk_RefreshAddRemove, "Chk_RefreshAddRemove_Click", [this] { Chk_RefreshAddRemove_Click(); });
-    click(Chk_ConfidenceLevel, "Chk_ConfidenceLevel_Click", [this] { Chk_ConfidenceLevel_Click(); });
-    click(Chk_NOSpherical_Equivalent, "Chk_NOSpherical_Equivalent_Click",
+    wireClick(Chk_AutoSearchWhenRead, "Chk_AutoSearchWhenRead_Click", [this] { Chk_AutoSearchWhenRead_Click(); });
+    wireClick(Chk_IncludeEither, "Chk_IncludeEither_Click", [this] { Chk_IncludeEither_Click(); });
+    wireClick(Chk_PrintPrescription, "Chk_PrintPrescription_Click", [this] { Chk_PrintPrescription_Click(); });
+    wireClick(Chk_NoOverMinus, "Chk_NoOverMinus_Click", [this] { Chk_NoOverMinus_Click(); });
+    wireClick(Chk_UpTo50, "Chk_UpTo50_Click", [this] { Chk_UpTo50_Click(); });
+    wireClick(Chk_Diagnostic, "Chk_Diagnostic_Click", [this] { Chk_Diagnostic_Click(); });
+    wireClick(Chk_RefreshAddRemove, "Chk_RefreshAddRemove_Click", [this] { Chk_RefreshAddRemove_Click(); });
+    wireClick(Chk_ConfidenceLevel, "Chk_ConfidenceLevel_Click", [this] { Chk_ConfidenceLevel_Click(); });
+    wireClick(Chk_NOSpherical_Equivalent, "Chk_NOSpherical_Equivalent_Click",
         [this] { Chk_NOSpherical_Equivalent_Click(); });
-    click(Chk_EnableHome, "Chk_EnableHome_Click", [this] { Chk_EnableHome_Click(); });
-    click(Chk_ReadingGlasses, "Chk_ReadingGlasses_Click", [this] { Chk_ReadingGlasses_Click(); });
-    click(Chk_LensFrames, "Chk_LensFrames_Click", [this] { Chk_LensFrames_Click(); });
-    click(Chk_NOFocometer, "Chk_NOFocometer_Click", [this] { Chk_NOFocometer_Click(); });
-    click(Chk_MatchReadingAlso, "Chk_MatchReadingAlso_Click", [this] { Chk_MatchReadingAlso_Click(); });
-    click(Chk_MatchReadingOnly, "Chk_MatchReadingOnly_Click", [this] { Chk_MatchReadingOnly_Click(); });
-    click(Opt_LeftOnly, "Opt_LeftOnly_Click", [this] { Opt_LeftOnly_Click(); });
-    click(Opt_RightOnly, "Opt_RightOnly_Click", [this] { Opt_RightOnly_Click(); });
-    click(Opt_MatchBoth, "Opt_MatchBoth_Click", [this] { Opt_MatchBoth_Click(); });
-    click(Chk_VarnRule, "Chk_VarnRule_Click", [this] { Chk_VarnRule_Click(); });
-    click(Chk_ShowLevel, "Chk_ShowLevel_Click", [this] { Chk_ShowLevel_Click(); });
-    click(Chk_EnableNetJournal, "Chk_EnableNetJournal_Click", [this] { Chk_EnableNetJournal_Click(); });
-    click(Chk_EnableAutorefractorDataCapture, "Chk_EnableAutorefractorDataCapture_Click",
+    wireClick(Chk_EnableHome, "Chk_EnableHome_Click", [this] { Chk_EnableHome_Click(); });
+    wireClick(Chk_ReadingGlasses, "Chk_ReadingGlasses_Click", [this] { Chk_ReadingGlasses_Click(); });
+    wireClick(Chk_LensFrames, "Chk_LensFrames_Click", [this] { Chk_LensFrames_Click(); });
+    wireClick(Chk_NOFocometer, "Chk_NOFocometer_Click", [this] { Chk_NOFocometer_Click(); });
+    wireClick(Chk_MatchReadingAlso, "Chk_MatchReadingAlso_Click", [this] { Chk_MatchReadingAlso_Click(); });
+    wireClick(Chk_MatchReadingOnly, "Chk_MatchReadingOnly_Click", [this] { Chk_MatchReadingOnly_Click(); });
+    wireClick(Opt_LeftOnly, "Opt_LeftOnly_Click", [this] { Opt_LeftOnly_Click(); });
+    wireClick(Opt_RightOnly, "Opt_RightOnly_Click", [this] { Opt_RightOnly_Click(); });
+    wireClick(Opt_MatchBoth, "Opt_MatchBoth_Click", [this] { Opt_MatchBoth_Click(); });
+    wireClick(Chk_VarnRule, "Chk_VarnRule_Click", [this] { Chk_VarnRule_Click(); });
+    wireClick(Chk_ShowLevel, "Chk_ShowLevel_Click", [this] { Chk_ShowLevel_Click(); });
+    wireClick(Chk_EnableNetJournal, "Chk_EnableNetJournal_Click", [this] { Chk_EnableNetJournal_Click(); });
+    wireClick(Chk_EnableAutorefractorDataCapture, "Chk_EnableAutorefractorDataCapture_Click",
         [this] { Chk_EnableAutorefractorDataCapture_Click(); });
-    click(Cmb_ChoosePrinter, "Cmb_ChoosePrinter_Click", [this] { Cmb_ChoosePrinter_Click(); });
-    click(Cmd_HelpWithRule, "Cmd_HelpWithRule_Click", [this] { Cmd_HelpWithRule_Click(); });
-    click(Cmd_Continue, "Cmd_Continue_Click", [this] { Cmd_Continue_Click(); });
-    click(Cmd_SaveContinue, "Cmd_SaveContinue_Click", [this] { Cmd_SaveContinue_Click(); });
-    click(Cmd_RestoreDefaults, "Cmd_RestoreDefaults_Click", [this] { Cmd_RestoreDefaults_Click(); });
-    click(Cmd_ExactMatch, "Cmd_ExactMatch_Click", [this] { Cmd_ExactMatch_Click(); });
-    click(Cmd_DefaultsDev2, "Cmd_DefaultsDev2_Click", [this] { Cmd_DefaultsDev2_Click(); });
-    click(Cmd_DefaultsDev4, "Cmd_DefaultsDev4_Click", [this] { Cmd_DefaultsDev4_Click(); });
-    click(Cmd_DefaultsTimes2, "Cmd_DefaultsTimes2_Click", [this] { Cmd_DefaultsTimes2_Click(); });
-    click(Cmd_MAX, "Cmd_MAX_Click", [this] { Cmd_MAX_Click(); });
+    wireClick(Cmb_ChoosePrinter, "Cmb_ChoosePrinter_Click", [this] { Cmb_ChoosePrinter_Click(); });
+    wireClick(Cmd_HelpWithRule, "Cmd_HelpWithRule_Click", [this] { Cmd_HelpWithRule_Click(); });
+    wireClick(Cmd_Continue, "Cmd_Continue_Click", [this] { Cmd_Continue_Click(); });
+    wireClick(Cmd_SaveContinue, "Cmd_SaveContinue_Click", [this] { Cmd_SaveContinue_Click(); });
+    wireClick(Cmd_RestoreDefaults, "Cmd_RestoreDefaults_Click", [this] { Cmd_RestoreDefaults_Click(); });
+    wireClick(Cmd_ExactMatch, "Cmd_ExactMatch_Click", [this] { Cmd_ExactMatch_Click(); });
+    wireClick(Cmd_DefaultsDev2, "Cmd_DefaultsDev2_Click", [this] { Cmd_DefaultsDev2_Click(); });
+    wireClick(Cmd_DefaultsDev4, "Cmd_DefaultsDev4_Click", [this] { Cmd_DefaultsDev4_Click(); });
+    wireClick(Cmd_DefaultsTimes2, "Cmd_DefaultsTimes2_Click", [this] { Cmd_DefaultsTimes2_Click(); });
+    wireClick(Cmd_MAX, "Cmd_MAX_Click", [this] { Cmd_MAX_Click(); });
 
     Txt_YearsOverMinus.onChange = [this] { Txt_YearsOverMinus_Change(); };
     op("Txt_YearsOverMinus_Change", Txt_YearsOverMinus.onChange);

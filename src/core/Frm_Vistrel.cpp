@@ -53,30 +53,18 @@ Frm_Vistrel::Frm_Vistrel(Station& station) : Screen(station, "Frm_Vistrel")
 // registered as an operation so that other screens and scripts reach it.
 void Frm_Vistrel::wireHandlers()
 {
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    auto dbl = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onDblClick = fn;
-        op(handler, std::move(fn));
-    };
-    auto change = [this](TextBox& t, const std::string& handler, std::function<void()> fn) {
-        t.onChange = fn;
-        op(handler, std::move(fn));
-    };
 
     // Menu bar.
-    click(SetOptions, "SetOptions_Click", [this] { SetOptions_Click(); });
-    click(ExitProgram, "ExitProgram_Click", [this] { ExitProgram_Click(); });
-    click(DeletedReport, "DeletedReport_Click", [this] { DeletedReport_Click(); });
-    click(RejectedReport, "RejectedReport_Click", [this] { RejectedReport_Click(); });
-    click(VacantLocationsReport, "VacantLocationsReport_Click", [this] { VacantLocationsReport_Click(); });
-    click(DisplayNoMatchMeasurements, "DisplayNoMatchMeasurements_Click",
+    wireClick(SetOptions, "SetOptions_Click", [this] { SetOptions_Click(); });
+    wireClick(ExitProgram, "ExitProgram_Click", [this] { ExitProgram_Click(); });
+    wireClick(DeletedReport, "DeletedReport_Click", [this] { DeletedReport_Click(); });
+    wireClick(RejectedReport, "RejectedReport_Click", [this] { RejectedReport_Click(); });
+    wireClick(VacantLocationsReport, "VacantLocationsReport_Click", [this] { VacantLocationsReport_Click(); });
+    wireClick(DisplayNoMatchMeasurements, "DisplayNoMatchMeasurements_Click",
         [this] { DisplayNoMatchMeasurements_Click(); });
-    click(SaveDeletedRejectedInventory, "SaveDeletedRejectedInventory_Click",
+    wireClick(SaveDeletedRejectedInventory, "SaveDeletedRejectedInventory_Click",
         [this] { SaveDeletedRejectedInventory_Click(); });
-    click(SaveUNMatchedMeasurementsFile, "SaveUNMatchedMeasurementsFile_Click",
+    wireClick(SaveUNMatchedMeasurementsFile, "SaveUNMatchedMeasurementsFile_Click",
         [this] { SaveUNMatchedMeasurementsFile_Click(); });
     // Help and about (src/core/HelpMenu.cpp).
     wireHelp();
@@ -87,139 +75,140 @@ void Frm_Vistrel::wireHandlers()
     op("Form_Terminate", [this] { Form_Terminate(); });
 
     // Entry fields.
-    change(Txt_Sphere_Left, "Txt_Sphere_Left_Change", [this] { Txt_Sphere_Left_Change(); });
-    change(Txt_Cylinder_Left, "Txt_Cylinder_Left_Change", [this] { Txt_Cylinder_Left_Change(); });
-    change(Txt_Axis_Left, "Txt_axis_left_Change", [this] { Txt_axis_left_Change(); });
-    change(Txt_LeftAdd, "Txt_LeftAdd_Change", [this] { Txt_LeftAdd_Change(); });
-    change(Txt_LeftReadingPower, "Txt_LeftReadingPower_Change", [this] { Txt_LeftReadingPower_Change(); });
-    change(Txt_Sphere_Right, "Txt_Sphere_Right_Change", [this] { Txt_Sphere_Right_Change(); });
-    change(Txt_Cylinder_Right, "Txt_Cylinder_Right_Change", [this] { Txt_Cylinder_Right_Change(); });
-    change(Txt_Axis_Right, "Txt_Axis_Right_Change", [this] { Txt_Axis_Right_Change(); });
-    change(Txt_RightAdd, "Txt_RightAdd_Change", [this] { Txt_RightAdd_Change(); });
-    change(Txt_RightReadingPower, "Txt_RightReadingPower_Change", [this] { Txt_RightReadingPower_Change(); });
-    change(Txt_Age, "Txt_Age_Change", [this] { Txt_Age_Change(); });
-    click(Txt_Age, "Txt_Age_Click", [this] { Txt_Age_Click(); });
-    dbl(Txt_Age, "Txt_Age_DblClick", [this] { Txt_Age_DblClick(); });
-    change(Txt_PersonNumber, "Txt_PersonNumber_Change", [this] { Txt_PersonNumber_Change(); });
-    click(Txt_PersonNumber, "Txt_PersonNumber_Click", [] {});
-    dbl(Txt_PersonNumber, "Txt_PersonNumber_DblClick", [this] { Txt_PersonNumber_DblClick(); });
-    dbl(Txt_Sphere_Left, "Txt_Sphere_Left_DblClick", [this] { Txt_Sphere_Left_DblClick(); });
-    dbl(Txt_Sphere_Right, "Txt_Sphere_Right_DblClick", [this] { Txt_Sphere_Right_DblClick(); });
-    dbl(Txt_LeftAdd, "Txt_LeftAdd_DblClick", [this] { Txt_LeftAdd_DblClick(); });
-    dbl(Txt_RightAdd, "Txt_RightAdd_DblClick", [this] { Txt_RightAdd_DblClick(); });
-    dbl(Txt_Cylinder_Left, "Txt_Cylinder_Left_DblClick", [this] { Txt_Cylinder_Left_DblClick(); });
-    dbl(Txt_Cylinder_Right, "Txt_Cylinder_Right_DblClick", [this] { Txt_Cylinder_Right_DblClick(); });
-    change(Txt_LeftConfidenceValue, "Txt_LeftConfidenceValue_Change", [this] { Txt_LeftConfidenceValue_Change(); });
-    change(Txt_RightConfidenceValue, "Txt_RightConfidenceValue_Change",
+    wireChange(Txt_Sphere_Left, "Txt_Sphere_Left_Change", [this] { Txt_Sphere_Left_Change(); });
+    wireChange(Txt_Cylinder_Left, "Txt_Cylinder_Left_Change", [this] { Txt_Cylinder_Left_Change(); });
+    wireChange(Txt_Axis_Left, "Txt_axis_left_Change", [this] { Txt_axis_left_Change(); });
+    wireChange(Txt_LeftAdd, "Txt_LeftAdd_Change", [this] { Txt_LeftAdd_Change(); });
+    wireChange(Txt_LeftReadingPower, "Txt_LeftReadingPower_Change", [this] { Txt_LeftReadingPower_Change(); });
+    wireChange(Txt_Sphere_Right, "Txt_Sphere_Right_Change", [this] { Txt_Sphere_Right_Change(); });
+    wireChange(Txt_Cylinder_Right, "Txt_Cylinder_Right_Change", [this] { Txt_Cylinder_Right_Change(); });
+    wireChange(Txt_Axis_Right, "Txt_Axis_Right_Change", [this] { Txt_Axis_Right_Change(); });
+    wireChange(Txt_RightAdd, "Txt_RightAdd_Change", [this] { Txt_RightAdd_Change(); });
+    wireChange(Txt_RightReadingPower, "Txt_RightReadingPower_Change", [this] { Txt_RightReadingPower_Change(); });
+    wireChange(Txt_Age, "Txt_Age_Change", [this] { Txt_Age_Change(); });
+    wireClick(Txt_Age, "Txt_Age_Click", [this] { Txt_Age_Click(); });
+    wireDblClick(Txt_Age, "Txt_Age_DblClick", [this] { Txt_Age_DblClick(); });
+    wireChange(Txt_PersonNumber, "Txt_PersonNumber_Change", [this] { Txt_PersonNumber_Change(); });
+    wireClick(Txt_PersonNumber, "Txt_PersonNumber_Click", [] {});
+    wireDblClick(Txt_PersonNumber, "Txt_PersonNumber_DblClick", [this] { Txt_PersonNumber_DblClick(); });
+    wireDblClick(Txt_Sphere_Left, "Txt_Sphere_Left_DblClick", [this] { Txt_Sphere_Left_DblClick(); });
+    wireDblClick(Txt_Sphere_Right, "Txt_Sphere_Right_DblClick", [this] { Txt_Sphere_Right_DblClick(); });
+    wireDblClick(Txt_LeftAdd, "Txt_LeftAdd_DblClick", [this] { Txt_LeftAdd_DblClick(); });
+    wireDblClick(Txt_RightAdd, "Txt_RightAdd_DblClick", [this] { Txt_RightAdd_DblClick(); });
+    wireDblClick(Txt_Cylinder_Left, "Txt_Cylinder_Left_DblClick", [this] { Txt_Cylinder_Left_DblClick(); });
+    wireDblClick(Txt_Cylinder_Right, "Txt_Cylinder_Right_DblClick", [this] { Txt_Cylinder_Right_DblClick(); });
+    wireChange(Txt_LeftConfidenceValue, "Txt_LeftConfidenceValue_Change", [this] { Txt_LeftConfidenceValue_Change(); });
+    wireChange(Txt_RightConfidenceValue, "Txt_RightConfidenceValue_Change",
         [this] { Txt_RightConfidenceValue_Change(); });
 
     // Spin buttons.
-    click(Cmd_SphereLeftUp, "Cmd_SphereLeftUp_Click", [this] { Cmd_SphereLeftUp_Click(); });
-    click(Cmd_SphereLeftDown, "Cmd_SphereLeftDown_Click", [this] { Cmd_SphereLeftDown_Click(); });
-    click(Cmd_SphereRightUp, "Cmd_SphereRightUp_Click", [this] { Cmd_SphereRightUp_Click(); });
-    click(Cmd_SphereRightDown, "Cmd_SphereRightDown_Click", [this] { Cmd_SphereRightDown_Click(); });
-    click(Cmd_CylinderLeftUp, "Cmd_CylinderLeftUp_Click", [this] { Cmd_CylinderLeftUp_Click(); });
-    click(Cmd_CylinderLeftDown, "Cmd_CylinderLeftDown_Click", [this] { Cmd_CylinderLeftDown_Click(); });
-    click(Cmd_CylinderRightUp, "Cmd_CylinderRightUp_Click", [this] { Cmd_CylinderRightUp_Click(); });
-    click(Cmd_CylinderRightDown, "Cmd_CylinderRightDown_Click", [this] { Cmd_CylinderRightDown_Click(); });
-    click(Cmd_AddLeftUp, "Cmd_AddLeftUp_Click", [this] { Cmd_AddLeftUp_Click(); });
-    click(Cmd_AddLeftDown, "Cmd_AddLeftDown_Click", [this] { Cmd_AddLeftDown_Click(); });
-    click(Cmd_AddRightUp, "Cmd_AddRightUp_Click", [this] { Cmd_AddRightUp_Click(); });
-    click(Cmd_AddRightDown, "Cmd_AddRightDown_Click", [this] { Cmd_AddRightDown_Click(); });
-    click(Cmd_Age1Up, "Cmd_Age1Up_Click", [this] { Cmd_Age1Up_Click(); });
-    click(Cmd_Age1Down, "Cmd_Age1Down_Click", [this] { Cmd_Age1Down_Click(); });
-    click(Cmd_Age10Up, "Cmd_Age10Up_Click", [this] { Cmd_Age10Up_Click(); });
-    click(Cmd_Age10Down, "Cmd_Age10Down_Click", [this] { Cmd_Age10Down_Click(); });
-    click(Cmd_Patient1Up, "Cmd_Patient1Up_Click", [this] { StepPersonNumber(1); });
-    click(Cmd_Patient1Down, "Cmd_Patient1Down_Click", [this] { StepPersonNumber(-1); });
-    click(Cmd_Patient10Up, "Cmd_Patient10Up_Click", [this] { StepPersonNumber(10); });
-    click(Cmd_Patient10Down, "Cmd_Patient10Down_Click", [this] { StepPersonNumber(-10); });
-    click(Cmd_Patient100Up, "Cmd_Patient100Up_Click", [this] { StepPersonNumber(100); });
-    click(Cmd_Patient100Down, "Cmd_Patient100Down_Click", [this] { StepPersonNumber(-100); });
-    click(Cmd_Patient1000Up, "Cmd_Patient1000Up_Click", [this] { StepPersonNumber(1000); });
-    click(Cmd_Patient1000Down, "Cmd_Patient1000Down_Click", [this] { StepPersonNumber(-1000); });
-    click(Cmd_Patient10000Up, "Cmd_Patient10000Up_Click", [this] { StepPersonNumber(10000); });
-    click(Cmd_Patient10000Down, "Cmd_Patient10000Down_Click", [this] { StepPersonNumber(-10000); });
-    click(Cmd_LeftConfidenceUP, "Cmd_LeftConfidenceUP_Click", [this] { Cmd_LeftConfidenceUP_Click(); });
-    click(Cmd_LeftConfidenceDOWN, "Cmd_LeftConfidenceDOWN_Click", [this] { Cmd_LeftConfidenceDOWN_Click(); });
-    click(Cmd_RightConfidenceUP, "Cmd_RightConfidenceUP_Click", [this] { Cmd_RightConfidenceUP_Click(); });
-    click(Cmd_RightConfidenceDOWN, "Cmd_RightConfidenceDOWN_Click", [this] { Cmd_RightConfidenceDOWN_Click(); });
+    wireClick(Cmd_SphereLeftUp, "Cmd_SphereLeftUp_Click", [this] { Cmd_SphereLeftUp_Click(); });
+    wireClick(Cmd_SphereLeftDown, "Cmd_SphereLeftDown_Click", [this] { Cmd_SphereLeftDown_Click(); });
+    wireClick(Cmd_SphereRightUp, "Cmd_SphereRightUp_Click", [this] { Cmd_SphereRightUp_Click(); });
+    wireClick(Cmd_SphereRightDown, "Cmd_SphereRightDown_Click", [this] { Cmd_SphereRightDown_Click(); });
+    wireClick(Cmd_CylinderLeftUp, "Cmd_CylinderLeftUp_Click", [this] { Cmd_CylinderLeftUp_Click(); });
+    wireClick(Cmd_CylinderLeftDown, "Cmd_CylinderLeftDown_Click", [this] { Cmd_CylinderLeftDown_Click(); });
+    wireClick(Cmd_CylinderRightUp, "Cmd_CylinderRightUp_Click", [this] { Cmd_CylinderRightUp_Click(); });
+    wireClick(Cmd_CylinderRightDown, "Cmd_CylinderRightDown_Click", [this] { Cmd_CylinderRightDown_Click(); });
+    wireClick(Cmd_AddLeftUp, "Cmd_AddLeftUp_Click", [this] { Cmd_AddLeftUp_Click(); });
+    wireClick(Cmd_AddLeftDown, "Cmd_AddLeftDown_Click", [this] { Cmd_AddLeftDown_Click(); });
+    wireClick(Cmd_AddRightUp, "Cmd_AddRightUp_Click", [this] { Cmd_AddRightUp_Click(); });
+    wireClick(Cmd_AddRightDown, "Cmd_AddRightDown_Click", [this] { Cmd_AddRightDown_Click(); });
+    wireClick(Cmd_Age1Up, "Cmd_Age1Up_Click", [this] { Cmd_Age1Up_Click(); });
+    wireClick(Cmd_Age1Down, "Cmd_Age1Down_Click", [this] { Cmd_Age1Down_Click(); });
+    wireClick(Cmd_Age10Up, "Cmd_Age10Up_Click", [this] { Cmd_Age10Up_Click(); });
+    wireClick(Cmd_Age10Down, "Cmd_Age10Down_Click", [this] { Cmd_Age10Down_Click(); });
+    wireClick(Cmd_Patient1Up, "Cmd_Patient1Up_Click", [this] { StepPersonNumber(1); });
+    wireClick(Cmd_Patient1Down, "Cmd_Patient1Down_Click", [this] { StepPersonNumber(-1); });
+    wireClick(Cmd_Patient10Up, "Cmd_Patient10Up_Click", [this] { StepPersonNumber(10); });
+    wireClick(Cmd_Patient10Down, "Cmd_Patient10Down_Click", [this] { StepPersonNumber(-10); });
+    wireClick(Cmd_Patient100Up, "Cmd_Patient100Up_Click", [this] { StepPersonNumber(100); });
+    wireClick(Cmd_Patient100Down, "Cmd_Patient100Down_Click", [this] { StepPersonNumber(-100); });
+    wireClick(Cmd_Patient1000Up, "Cmd_Patient1000Up_Click", [this] { StepPersonNumber(1000); });
+    wireClick(Cmd_Patient1000Down, "Cmd_Patient1000Down_Click", [this] { StepPersonNumber(-1000); });
+    wireClick(Cmd_Patient10000Up, "Cmd_Patient10000Up_Click", [this] { StepPersonNumber(10000); });
+    wireClick(Cmd_Patient10000Down, "Cmd_Patient10000Down_Click", [this] { StepPersonNumber(-10000); });
+    wireClick(Cmd_LeftConfidenceUP, "Cmd_LeftConfidenceUP_Click", [this] { Cmd_LeftConfidenceUP_Click(); });
+    wireClick(Cmd_LeftConfidenceDOWN, "Cmd_LeftConfidenceDOWN_Click", [this] { Cmd_LeftConfidenceDOWN_Click(); });
+    wireClick(Cmd_RightConfidenceUP, "Cmd_RightConfidenceUP_Click", [this] { Cmd_RightConfidenceUP_Click(); });
+    wireClick(Cmd_RightConfidenceDOWN, "Cmd_RightConfidenceDOWN_Click", [this] { Cmd_RightConfidenceDOWN_Click(); });
 
     // Check boxes and options.
-    click(Chk_BlindLeft, "Chk_BlindLeft_Click", [this] { Chk_BlindLeft_Click(); });
-    click(Chk_BlindRight, "Chk_BlindRight_Click", [this] { Chk_BlindRight_Click(); });
-    click(Chk_DominantLeft, "Chk_DominantLeft_Click", [this] { Chk_DominantLeft_Click(); });
-    click(Chk_DominantRight, "Chk_DominantRight_Click", [this] { Chk_DominantRight_Click(); });
-    click(Chk_PlusBifocals, "Chk_PlusBifocals_Click", [this] { Chk_PlusBifocals_Click(); });
-    click(Chk_OnlyBifocals, "Chk_OnlyBifocals_Click", [this] { Chk_OnlyBifocals_Click(); });
-    click(Chk_NOEquiv, "Chk_NOEquiv_Click", [this] { Chk_NOEquiv_Click(); });
-    click(Chk_NOEquivLeft, "Chk_NOEquivLeft_Click", [this] { Chk_NOEquivLeft_Click(); });
-    click(Chk_NOEquivRight, "Chk_NOEquivRight_Click", [this] { Chk_NOEquivRight_Click(); });
-    click(Chk_OverPlus, "Chk_OverPlus_Click", [this] { Chk_OverPlus_Click(); });
-    click(Chk_Overminus, "Chk_Overminus_Click", [this] { Chk_Overminus_Click(); });
-    click(Chk_Add_Either, "Chk_Add_Either_Click", [this] { Chk_Add_Either_Click(); });
-    click(Opt_Child, "Opt_Child_Click", [this] { Opt_Child_Click(); });
-    click(Opt_DoNotCare, "Opt_DoNotCare_Click", [this] { Opt_DoNotCare_Click(); });
-    click(Opt_EitherMaleFemale, "Opt_EitherMaleFemale_Click", [this] { Opt_EitherMaleFemale_Click(); });
-    click(Opt_Female, "Opt_Female_Click", [this] { Opt_Female_Click(); });
-    click(Opt_Male, "Opt_Male_Click", [this] { Opt_Male_Click(); });
-    click(Opt_LensDoNotCare, "Opt_LensDoNotCare_Click", [this] { Opt_LensDoNotCare_Click(); });
-    click(Opt_LensSingle, "Opt_LensSingle_Click", [this] { Opt_LensSingle_Click(); });
-    click(Opt_LensBiFocal, "Opt_LensBiFocal_Click", [this] { Opt_LensBiFocal_Click(); });
-    click(Opt_Progressive, "Opt_Progressive_Click", [this] { Opt_Progressive_Click(); });
-    click(Opt_Readers, "Opt_Readers_Click", [this] { Opt_Readers_Click(); });
+    wireClick(Chk_BlindLeft, "Chk_BlindLeft_Click", [this] { Chk_BlindLeft_Click(); });
+    wireClick(Chk_BlindRight, "Chk_BlindRight_Click", [this] { Chk_BlindRight_Click(); });
+    wireClick(Chk_DominantLeft, "Chk_DominantLeft_Click", [this] { Chk_DominantLeft_Click(); });
+    wireClick(Chk_DominantRight, "Chk_DominantRight_Click", [this] { Chk_DominantRight_Click(); });
+    wireClick(Chk_PlusBifocals, "Chk_PlusBifocals_Click", [this] { Chk_PlusBifocals_Click(); });
+    wireClick(Chk_OnlyBifocals, "Chk_OnlyBifocals_Click", [this] { Chk_OnlyBifocals_Click(); });
+    wireClick(Chk_NOEquiv, "Chk_NOEquiv_Click", [this] { Chk_NOEquiv_Click(); });
+    wireClick(Chk_NOEquivLeft, "Chk_NOEquivLeft_Click", [this] { Chk_NOEquivLeft_Click(); });
+    wireClick(Chk_NOEquivRight, "Chk_NOEquivRight_Click", [this] { Chk_NOEquivRight_Click(); });
+    wireClick(Chk_OverPlus, "Chk_OverPlus_Click", [this] { Chk_OverPlus_Click(); });
+    wireClick(Chk_Overminus, "Chk_Overminus_Click", [this] { Chk_Overminus_Click(); });
+    wireClick(Chk_Add_Either, "Chk_Add_Either_Click", [this] { Chk_Add_Either_Click(); });
+    wireClick(Opt_Child, "Opt_Child_Click", [this] { Opt_Child_Click(); });
+    wireClick(Opt_DoNotCare, "Opt_DoNotCare_Click", [this] { Opt_DoNotCare_Click(); });
+    wireClick(Opt_EitherMaleFemale, "Opt_EitherMaleFemale_Click", [this] { Opt_EitherMaleFemale_Click(); });
+    wireClick(Opt_Female, "Opt_Female_Click", [this] { Opt_Female_Click(); });
+    wireClick(Opt_Male, "Opt_Male_Click", [this] { Opt_Male_Click(); });
+    wireClick(Opt_LensDoNotCare, "Opt_LensDoNotCare_Click", [this] { Opt_LensDoNotCare_Click(); });
+    wireClick(Opt_LensSingle, "Opt_LensSingle_Click", [this] { Opt_LensSingle_Click(); });
+    wireClick(Opt_LensBiFocal, "Opt_LensBiFocal_Click", [this] { Opt_LensBiFocal_Click(); });
+    wireClick(Opt_Progressive, "Opt_Progressive_Click", [this] { Opt_Progressive_Click(); });
+    wireClick(Opt_Readers, "Opt_Readers_Click", [this] { Opt_Readers_Click(); });
 
     // Commands.
-    click(Cmd_Search, "Cmd_Search_Click", [this] { Cmd_Search_Click(); });
+    wireClick(Cmd_Search, "Cmd_Search_Click", [this] { Cmd_Search_Click(); });
     op("Search_Click", [this] { Search_Click(); });
-    click(Cmd_CalculateDataClear, "Cmd_CalculateDataClear_Click", [this] { Cmd_CalculateDataClear_Click(); });
-    click(Cmd_RunAdvisor, "Cmd_RunAdvisor_Click", [this] { Cmd_RunAdvisor_Click(); });
-    click(Cmd_PrintList, "Cmd_PrintList_Click", [this] { Cmd_PrintList_Click(); });
-    click(Cmd_Flip, "Cmd_Flip_Click", [this] { Cmd_Flip_Click(); });
+    wireClick(Cmd_CalculateDataClear, "Cmd_CalculateDataClear_Click", [this] { Cmd_CalculateDataClear_Click(); });
+    wireClick(Cmd_RunAdvisor, "Cmd_RunAdvisor_Click", [this] { Cmd_RunAdvisor_Click(); });
+    wireClick(Cmd_PrintList, "Cmd_PrintList_Click", [this] { Cmd_PrintList_Click(); });
+    wireClick(Cmd_Flip, "Cmd_Flip_Click", [this] { Cmd_Flip_Click(); });
     op("flipleft", [this] { flipleft(); });
-    click(Cmd_SetAdd, "Cmd_SetAdd_Click", [this] { Cmd_SetAdd_Click(); });
-    click(Cmd_Sizer, "Cmd_Sizer_Click", [this] { Cmd_Sizer_Click(); });
-    click(Cmd_CloseProgram, "Cmd_CloseProgram_Click", [this] { Cmd_CloseProgram_Click(); });
-    click(Cmd_RestoreLeft, "Cmd_RestoreLeft_Click", [this] { Cmd_RestoreLeft_Click(); });
-    click(Cmd_RestoreRight, "Cmd_RestoreRight_Click", [this] { Cmd_RestoreRight_Click(); });
-    click(Cmd_ClearReload, "Cmd_ClearReload_Click", [this] { Cmd_ClearReload_Click(); });
+    wireClick(Cmd_SetAdd, "Cmd_SetAdd_Click", [this] { Cmd_SetAdd_Click(); });
+    wireClick(Cmd_Sizer, "Cmd_Sizer_Click", [this] { Cmd_Sizer_Click(); });
+    wireClick(Cmd_CloseProgram, "Cmd_CloseProgram_Click", [this] { Cmd_CloseProgram_Click(); });
+    wireClick(Cmd_RestoreLeft, "Cmd_RestoreLeft_Click", [this] { Cmd_RestoreLeft_Click(); });
+    wireClick(Cmd_RestoreRight, "Cmd_RestoreRight_Click", [this] { Cmd_RestoreRight_Click(); });
+    wireClick(Cmd_ClearReload, "Cmd_ClearReload_Click", [this] { Cmd_ClearReload_Click(); });
     Lst_LeftInventory.onScroll = [this] { Lst_LeftInventory_Scroll(); };
     op("Lst_LeftInventory_Scroll", Lst_LeftInventory.onScroll);
     Lst_RightInventory.onScroll = [this] { Lst_RightInventory_Scroll(); };
     op("Lst_RightInventory_Scroll", Lst_RightInventory.onScroll);
-    click(Cmd_ListPersons, "Cmd_ListPersons_Click", [this] { Cmd_ListPersons_Click(); });
-    click(Lst_LeftSelection, "Lst_LeftSelection_Click", [this] { Lst_LeftSelection_Click(); });
-    click(Lst_LeftInventory, "Lst_LeftInventory_Click", [this] { Lst_LeftInventory_Click(); });
-    click(Lst_RightInventory, "Lst_RightInventory_Click", [this] { Lst_RightInventory_Click(); });
-    click(Lst_PersonsList, "Lst_PersonsList_Click", [this] { Lst_PersonsList_Click(); });
-    change(Txt_InventoryNr, "Txt_InventoryNr_Change", [this] { Txt_InventoryNr_Change(); });
-    dbl(Txt_InventoryNr, "Txt_InventoryNr_DblClick", [this] { Txt_InventoryNr_DblClick(); });
-    click(Cmd_ReadingGlasses, "Cmd_ReadingGlasses_Click", [this] { Cmd_ReadingGlasses_Click(); });
-    click(Cmd_DisplayLensFrames, "Cmd_DisplayLensFrames_Click", [this] { Cmd_DisplayLensFrames_Click(); });
-    click(Cmd_PrescriptionSave, "Cmd_PrescriptionSave_Click", [this] { Cmd_PrescriptionSave_Click(); });
-    click(AutoRefractorDataCapture, "AutoRefractorDataCapture_Click", [this] { AutoRefractorDataCapture_Click(); });
-    click(LoadPreviousAutorefractorMeasurements, "LoadPreviousAutorefractorMeasurements_Click",
+    wireClick(Cmd_ListPersons, "Cmd_ListPersons_Click", [this] { Cmd_ListPersons_Click(); });
+    wireClick(Lst_LeftSelection, "Lst_LeftSelection_Click", [this] { Lst_LeftSelection_Click(); });
+    wireClick(Lst_LeftInventory, "Lst_LeftInventory_Click", [this] { Lst_LeftInventory_Click(); });
+    wireClick(Lst_RightInventory, "Lst_RightInventory_Click", [this] { Lst_RightInventory_Click(); });
+    wireClick(Lst_PersonsList, "Lst_PersonsList_Click", [this] { Lst_PersonsList_Click(); });
+    wireChange(Txt_InventoryNr, "Txt_InventoryNr_Change", [this] { Txt_InventoryNr_Change(); });
+    wireDblClick(Txt_InventoryNr, "Txt_InventoryNr_DblClick", [this] { Txt_InventoryNr_DblClick(); });
+    wireClick(Cmd_ReadingGlasses, "Cmd_ReadingGlasses_Click", [this] { Cmd_ReadingGlasses_Click(); });
+    wireClick(Cmd_DisplayLensFrames, "Cmd_DisplayLensFrames_Click", [this] { Cmd_DisplayLensFrames_Click(); });
+    wireClick(Cmd_PrescriptionSave, "Cmd_PrescriptionSave_Click", [this] { Cmd_PrescriptionSave_Click(); });
+    wireClick(AutoRefractorDataCapture, "AutoRefractorDataCapture_Click", [this] { AutoRefractorDataCapture_Click(); });
+    wireClick(LoadPreviousAutorefractorMeasurements, "LoadPreviousAutorefractorMeasurements_Click",
         [this] { LoadPreviousAutorefractorMeasurements_Click(); });
-    click(EnableDisablePracticePlay, "EnableDisablePracticePlay_Click", [this] { EnableDisablePracticePlay_Click(); });
-    click(Img_Backwards, "Img_Backwards_Click", [this] { Img_Backwards_Click(); });
-    click(Img_Forward, "Img_Forward_Click", [this] { Img_Forward_Click(); });
-    change(Txt_Play_Person_Nr, "Txt_Play_Person_Nr_Change", [this] { Txt_Play_Person_Nr_Change(); });
+    wireClick(EnableDisablePracticePlay, "EnableDisablePracticePlay_Click",
+        [this] { EnableDisablePracticePlay_Click(); });
+    wireClick(Img_Backwards, "Img_Backwards_Click", [this] { Img_Backwards_Click(); });
+    wireClick(Img_Forward, "Img_Forward_Click", [this] { Img_Forward_Click(); });
+    wireChange(Txt_Play_Person_Nr, "Txt_Play_Person_Nr_Change", [this] { Txt_Play_Person_Nr_Change(); });
     op("LoadPractice", [this] { LoadPractice(); });
     op("ShowPracticeControls", [this] { ShowPracticeControls(); });
 
     // Presets and cut-back.
-    click(Cmd_Default, "Cmd_Default_Click", [this] { Cmd_Default_Click(); });
-    click(Cmd_2Exact_Match, "Cmd_2Exact_Match_Click", [this] { Cmd_2Exact_Match_Click(); });
-    click(CMD_2DefDev2, "CMD_2DefDev2_Click", [this] { CMD_2DefDev2_Click(); });
-    click(CMD_2DefDev4, "CMD_2DefDev4_Click", [this] { CMD_2DefDev4_Click(); });
-    click(Cmd_2DefTimes2, "Cmd_2DefTimes2_Click", [this] { Cmd_2DefTimes2_Click(); });
-    click(Cmd_MAX, "Cmd_MAX_Click", [this] { Cmd_MAX_Click(); });
-    click(Cmd_LeftCutBackSearch, "Cmd_LeftCutBackSearch_Click", [this] { Cmd_LeftCutBackSearch_Click(); });
-    click(Cmd_RightCutBackSearch, "Cmd_RightCutBackSearch_Click", [this] { Cmd_RightCutBackSearch_Click(); });
-    click(Cmd_BothCutBackSearch, "Cmd_BothCutBackSearch_Click", [this] { Cmd_BothCutBackSearch_Click(); });
-    click(Cmd_LeftResetCutBack, "Cmd_LeftResetCutBack_Click", [this] { Cmd_LeftResetCutBack_Click(); });
-    click(Cmd_RightResetCutBack, "Cmd_RightResetCutBack_Click", [this] { Cmd_RightResetCutBack_Click(); });
-    click(Cmd_BothReset, "Cmd_BothReset_Click", [this] { Cmd_BothReset_Click(); });
+    wireClick(Cmd_Default, "Cmd_Default_Click", [this] { Cmd_Default_Click(); });
+    wireClick(Cmd_2Exact_Match, "Cmd_2Exact_Match_Click", [this] { Cmd_2Exact_Match_Click(); });
+    wireClick(CMD_2DefDev2, "CMD_2DefDev2_Click", [this] { CMD_2DefDev2_Click(); });
+    wireClick(CMD_2DefDev4, "CMD_2DefDev4_Click", [this] { CMD_2DefDev4_Click(); });
+    wireClick(Cmd_2DefTimes2, "Cmd_2DefTimes2_Click", [this] { Cmd_2DefTimes2_Click(); });
+    wireClick(Cmd_MAX, "Cmd_MAX_Click", [this] { Cmd_MAX_Click(); });
+    wireClick(Cmd_LeftCutBackSearch, "Cmd_LeftCutBackSearch_Click", [this] { Cmd_LeftCutBackSearch_Click(); });
+    wireClick(Cmd_RightCutBackSearch, "Cmd_RightCutBackSearch_Click", [this] { Cmd_RightCutBackSearch_Click(); });
+    wireClick(Cmd_BothCutBackSearch, "Cmd_BothCutBackSearch_Click", [this] { Cmd_BothCutBackSearch_Click(); });
+    wireClick(Cmd_LeftResetCutBack, "Cmd_LeftResetCutBack_Click", [this] { Cmd_LeftResetCutBack_Click(); });
+    wireClick(Cmd_RightResetCutBack, "Cmd_RightResetCutBack_Click", [this] { Cmd_RightResetCutBack_Click(); });
+    wireClick(Cmd_BothReset, "Cmd_BothReset_Click", [this] { Cmd_BothReset_Click(); });
 
     // Timers.
     Tmr_InventoryMovement.onTimer = [this] { Tmr_InventoryMovement_Timer(); };

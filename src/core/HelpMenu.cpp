@@ -12,18 +12,14 @@ namespace vistrel {
 
 void Frm_Vistrel::wireHelp()
 {
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    click(HelpProgram, "HelpProgram_Click", [this] { HelpProgram_Click(); });
-    click(HelpReportsDropdown, "HelpReportsDropdown_Click", [this] { HelpReportsDropdown_Click(); });
-    click(HelpFileDropdown, "HelpFileDropdown_Click", [this] { HelpFileDropdown_Click(); });
-    click(HelpPrescriptionModificationWizard, "HelpPrescriptionModificationWizard_Click",
+    wireClick(HelpProgram, "HelpProgram_Click", [this] { HelpProgram_Click(); });
+    wireClick(HelpReportsDropdown, "HelpReportsDropdown_Click", [this] { HelpReportsDropdown_Click(); });
+    wireClick(HelpFileDropdown, "HelpFileDropdown_Click", [this] { HelpFileDropdown_Click(); });
+    wireClick(HelpPrescriptionModificationWizard, "HelpPrescriptionModificationWizard_Click",
         [this] { HelpPrescriptionModificationWizard_Click(); });
-    click(TellAbout, "TellAbout_Click", [this] { TellAbout_Click(); });
-    click(UpdateProgram, "UpdateProgram_Click", [this] { UpdateProgram_Click(); });
-    click(Lbl_SearchDataEntryArea, "Lbl_SearchDataEntryArea_Click", [this] { Lbl_SearchDataEntryArea_Click(); });
+    wireClick(TellAbout, "TellAbout_Click", [this] { TellAbout_Click(); });
+    wireClick(UpdateProgram, "UpdateProgram_Click", [this] { UpdateProgram_Click(); });
+    wireClick(Lbl_SearchDataEntryArea, "Lbl_SearchDataEntryArea_Click", [this] { Lbl_SearchDataEntryArea_Click(); });
 }
 
 // "&Help": the help screen, which lists every document.

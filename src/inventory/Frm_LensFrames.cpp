@@ -15,10 +15,6 @@ Frm_LensFrames::Frm_LensFrames(Station& station) : Screen(station, "Frm_LensFram
 
 void Frm_LensFrames::wireHandlers()
 {
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
     for (int g = 0; g <= 2; ++g) {
         Grid& grid = MSF_LensInventory(g);
         grid.onClick = [this, g] { MSF_LensInventory_Click(g); };
@@ -29,9 +25,9 @@ void Frm_LensFrames::wireHandlers()
     // The buttons of each half; the periodic save reaches the saves by name.
     for (int i = 0; i <= 1; ++i) {
         const std::string n = "(" + std::to_string(i) + ")";
-        click(Cmd_LensLock[i], "Cmd_LensLock_Click" + n, [this, i] { Cmd_LensLock_Click(i); });
-        click(Cmd_LensUnlock[i], "Cmd_LensUnlock_Click" + n, [this, i] { Cmd_LensUnlock_Click(i); });
-        click(Cmd_SaveLensChanges[i], "Cmd_SaveLensChanges_Click" + n, [this, i] { Cmd_SaveLensChanges_Click(i); });
+        wireClick(Cmd_LensLock[i], "Cmd_LensLock_Click" + n, [this, i] { Cmd_LensLock_Click(i); });
+        wireClick(Cmd_LensUnlock[i], "Cmd_LensUnlock_Click" + n, [this, i] { Cmd_LensUnlock_Click(i); });
+        wireClick(Cmd_SaveLensChanges[i], "Cmd_SaveLensChanges_Click" + n, [this, i] { Cmd_SaveLensChanges_Click(i); });
         op("Cmd_LockF_Click" + n, [this, i] { Cmd_LockF_Click(i); });
         op("Cmd_UnlockF_Click" + n, [this, i] { Cmd_UnlockF_Click(i); });
         op("Cmd_SaveF_Click" + n, [this, i] { Cmd_SaveF_Click(i); });
@@ -40,13 +36,13 @@ void Frm_LensFrames::wireHandlers()
             ComputeTotalLensFrames(i, result);
         });
     }
-    click(Txt_FrameAdult65, "Txt_FrameAdult65_Click", [this] { Txt_FrameAdult65_Click(); });
-    click(Txt_FrameAdult67, "Txt_FrameAdult67_Click", [this] { Txt_FrameAdult67_Click(); });
-    click(Txt_FrameAdult70, "Txt_FrameAdult70_Click", [this] { Txt_FrameAdult70_Click(); });
-    click(Txt_FrameChild57, "Txt_FrameChild57_Click", [this] { Txt_FrameChild57_Click(); });
-    click(Txt_FrameChild61, "Txt_FrameChild61_Click", [this] { Txt_FrameChild61_Click(); });
-    click(Txt_FrameChild65, "Txt_FrameChild65_Click", [this] { Txt_FrameChild65_Click(); });
-    click(Cmd_LensFrameHide, "Cmd_LensFrameHide_Click", [this] { Cmd_LensFrameHide_Click(); });
+    wireClick(Txt_FrameAdult65, "Txt_FrameAdult65_Click", [this] { Txt_FrameAdult65_Click(); });
+    wireClick(Txt_FrameAdult67, "Txt_FrameAdult67_Click", [this] { Txt_FrameAdult67_Click(); });
+    wireClick(Txt_FrameAdult70, "Txt_FrameAdult70_Click", [this] { Txt_FrameAdult70_Click(); });
+    wireClick(Txt_FrameChild57, "Txt_FrameChild57_Click", [this] { Txt_FrameChild57_Click(); });
+    wireClick(Txt_FrameChild61, "Txt_FrameChild61_Click", [this] { Txt_FrameChild61_Click(); });
+    wireClick(Txt_FrameChild65, "Txt_FrameChild65_Click", [this] { Txt_FrameChild65_Click(); });
+    wireClick(Cmd_LensFrameHide, "Cmd_LensFrameHide_Click", [this] { Cmd_LensFrameHide_Click(); });
     onCloseBox = [this] { Cmd_LensFrameHide_Click(); };
 }
 

@@ -14,16 +14,12 @@ using cell_look::Open;
 Frm_ReadingGlasses::Frm_ReadingGlasses(Station& station) : Screen(station, "Frm_ReadingGlasses")
 {
     design();
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
     for (int i = 0; i <= 19; ++i)
         Txt_NNN[i].onClick = [this, i] { Txt_NNN_Click(i); };
-    click(Cmd_LockCells, "Cmd_LockCells_Click", [this] { Cmd_LockCells_Click(); });
-    click(Cmd_Unlock, "Cmd_Unlock_Click", [this] { Cmd_Unlock_Click(); });
-    click(Cmd_SaveCells, "Cmd_SaveCells_Click", [this] { Cmd_SaveCells_Click(); });
-    click(Cmd_HideReading, "Cmd_HideReading_Click", [this] { Cmd_HideReading_Click(); });
+    wireClick(Cmd_LockCells, "Cmd_LockCells_Click", [this] { Cmd_LockCells_Click(); });
+    wireClick(Cmd_Unlock, "Cmd_Unlock_Click", [this] { Cmd_Unlock_Click(); });
+    wireClick(Cmd_SaveCells, "Cmd_SaveCells_Click", [this] { Cmd_SaveCells_Click(); });
+    wireClick(Cmd_HideReading, "Cmd_HideReading_Click", [this] { Cmd_HideReading_Click(); });
     onCloseBox = [this] { Cmd_HideReading_Click(); };
     var("Showing", Showing);
     op("ComputeTotalReading", [this] {

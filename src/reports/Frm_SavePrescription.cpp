@@ -11,13 +11,9 @@ Frm_SavePrescription::Frm_SavePrescription(Station& station) : Screen(station, "
     onActivate = [this] { Form_Activate(); };
     // Closed without an answer: nothing is saved.
     onCloseBox = [this] { answer(false); };
-    auto click = [this](Control& c, const std::string& handler, std::function<void()> fn) {
-        c.onClick = fn;
-        op(handler, std::move(fn));
-    };
-    click(Cmd_Yes, "Cmd_Yes_Click", [this] { Cmd_Yes_Click(); });
-    click(Cmd_NOSave, "Cmd_NOSave_Click", [this] { Cmd_NOSave_Click(); });
-    click(Chk_DoNotAsk, "Chk_DoNotAsk_Click", [this] { Chk_DoNotAsk_Click(); });
+    wireClick(Cmd_Yes, "Cmd_Yes_Click", [this] { Cmd_Yes_Click(); });
+    wireClick(Cmd_NOSave, "Cmd_NOSave_Click", [this] { Cmd_NOSave_Click(); });
+    wireClick(Chk_DoNotAsk, "Chk_DoNotAsk_Click", [this] { Chk_DoNotAsk_Click(); });
 }
 
 void Frm_SavePrescription::Chk_DoNotAsk_Click()

@@ -15,7 +15,6 @@
 #include <QLabel>
 #include <QListView>
 #include <QMessageBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -39,54 +38,31 @@ const char* const Readings =
 class CaptureScreensTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    test::WindowStation station_;
     test::Person person_;
 
-    Frm_Vistrel& main() { return station_->vistrel(); }
-    qt::FormWindow& mainWindow() { return windows_->main(); }
+    Frm_Vistrel& main() { return station_.station().vistrel(); }
+    qt::FormWindow& mainWindow() { return station_.windows().main(); }
 
 private slots:
     void initTestCase()
     {
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        qputenv("VISTREL_COM1", "/nonexistent/vistrel-line");
-        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
+        writeFile(station_.shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
             "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE, 1,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
             "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
             "32000\r\n");
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"),
-            "1,-2.25,-0.75,180,0.00,1.50,-0.50,90,0.00,0,0,0,0,0,M,0,\"\",\"\",\"\"\r\n");
-        writeFile(documents + QStringLiteral("/Vistrel/AutoRefractorReadings.txt"), Readings);
-
-        platform_ = std::make_unique<qt::QtPlatform>();
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(1.0, 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        mainWindow().window()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowActive(mainWindow().window()));
+        station_.writeInventory("1,-2.25,-0.75,180,0.00,1.50,-0.50,90,0.00,0,0,0,0,0,M,0,\"\",\"\",\"\"\r\n");
+        writeFile(station_.documents() + QStringLiteral("/Vistrel/AutoRefractorReadings.txt"), Readings);
+        station_.start(person_);
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-        qunsetenv("VISTREL_COM1");
-    }
+    void cleanupTestCase() { station_.stop(); }
 
     // ---- the capture screen ----
     void theCaptureScreenGoesThroughOneEyeThenTheOther()
     {
-        Frm_Autorefractor& capture = station_->autorefractor();
-        qt::FormWindow* window = windows_->windowFor(capture);
+        Frm_Autorefractor& capture = station_.station().autorefractor();
+        qt::FormWindow* window = station_.windows().windowFor(capture);
         QStringList order;
         person_.answer = [&](Form&, QWidget*) {
             for (int i = 0; i < 6; ++i) {
@@ -106,8 +82,8 @@ private slots:
     // ---- the readings browser ----
     void theBrowserLoadsReadingsByKeysAndStaysOpen()
     {
-        Frm_AutoReadings& browser = station_->autoReadings();
-        qt::FormWindow* window = windows_->windowFor(browser);
+        Frm_AutoReadings& browser = station_.station().autoReadings();
+        qt::FormWindow* window = station_.windows().windowFor(browser);
         auto* byTime = qobject_cast<QListView*>(window->widgetFor(browser.Lst_AutorefractorReadings));
         auto* byPerson = qobject_cast<QListView*>(window->widgetFor(browser.Lst_AutorefractorReadingsSorted));
         bool worked = false;

@@ -5,6 +5,7 @@
 #include "QtPlatform.h"
 #include "StationWindows.h"
 #include "TimerBinding.h"
+#include "WindowTestSupport.h"
 
 #include "autorefractor/Frm_Autorefractor.h"
 #include "core/Frm_Vistrel.h"
@@ -16,12 +17,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
 
 using namespace vistrel;
+using test::writeFile;
 
 namespace {
 
@@ -31,14 +32,6 @@ const char* const OptionsLine =
     "100,101,2.50,102,103,2.50,104,105,2.50,YES,YES,NO,NO,YES,NO,35,NO,NO,YES,YES,C:\\NetworkJournal,1,Default,1,"
     "32000";
 constexpr int Pairs = 80;
-
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
 
 // Answers the station's questions as a person at the keyboard would.
 class KeyboardPerson : public qt::DialogWatcher {
@@ -98,15 +91,12 @@ QStringList shownButtons(QWidget* window)
 class MainScreenTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    test::WindowStation station_;
     KeyboardPerson person_;
 
-    Frm_Vistrel& main() { return station_->vistrel(); }
-    QWidget* mainWindow() { return windows_->main().window(); }
-    QListView* listOf(const ListBox& list) { return qobject_cast<QListView*>(windows_->main().widgetFor(list)); }
+    Frm_Vistrel& main() { return station_.station().vistrel(); }
+    QWidget* mainWindow() { return station_.windows().main().window(); }
+    QListView* listOf(const ListBox& list) { return qobject_cast<QListView*>(station_.windows().main().widgetFor(list)); }
 
     int rowOf(const ListBox& list, int tableIndex)
     {
@@ -135,42 +125,24 @@ class MainScreenTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QVERIFY(folders_.isValid());
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"), OptionsLine);
+        writeFile(station_.shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"), OptionsLine);
         QByteArray inventory;
         for (int n = 1; n <= Pairs; ++n)
             inventory += QByteArray::number(n) + ",-1.00,-0.25,90,0.00,-1.25,-0.50,80,0.00,0,0,0,0,0,M,0,\"Frame "
                 + QByteArray::number(n) + "\",\"\",\"\"\r\n";
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"), inventory);
+        station_.writeInventory(inventory);
         // Pairs 5 and 9 went to persons 44 and 45.
-        writeFile(documents + QStringLiteral("/Vistrel/JournalFile.txt"),
+        writeFile(station_.documents() + QStringLiteral("/Vistrel/JournalFile.txt"),
             "5,True,44,0.00,0.00,000,0.00,(0.00),0.00,0.00,000,0.00,(0.00)\r\n"
             "9,True,45,0.00,0.00,000,0.00,(0.00),0.00,0.00,000,0.00,(0.00)\r\n");
-
-        platform_ = std::make_unique<qt::QtPlatform>();
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), station_->vistrel(), qt::Metrics(1.0, 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        mainWindow()->show();
-        station_->start();
+        station_.start(person_);
         QCOMPARE(person_.messages, 0);
-        QVERIFY(QTest::qWaitForWindowActive(mainWindow()));
         QCOMPARE(main().Lst_LeftInventory.listCount(), Pairs - 2);
         QCOMPARE(main().Lst_PersonsList.listCount(), 2);
         main().Txt_PersonNumber.setText("12");
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-    }
+    void cleanupTestCase() { station_.stop(); }
 
     // ---- the question on a pair ----
     void enterRemovesAPairAndTheCaretComesBackToTheList()
@@ -245,9 +217,9 @@ private slots:
         person_.answer = [&](Form&, QWidget* window) {
             type(window, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
         };
-        station_->savePrescription().show(true);
+        station_.station().savePrescription().show(true);
         QCOMPARE(main().SavePrescriptionYesNo, saved);
-        QVERIFY(!station_->savePrescription().visible());
+        QVERIFY(!station_.station().savePrescription().visible());
     }
 
     // ---- the stock lists ----
@@ -283,7 +255,7 @@ private slots:
     void theTimersRunOnRealTimers()
     {
         auto running = [&](const Form& form, const Timer& timer) {
-            for (const auto& t : windows_->windowFor(form)->binder().timers())
+            for (const auto& t : station_.windows().windowFor(form)->binder().timers())
                 if (&t->timer() == &timer)
                     return t->running();
             return false;
@@ -292,19 +264,19 @@ private slots:
         QVERIFY(running(main(), main().Tmr_SaveInventory));
         QVERIFY(running(main(), main().Tmr_RefreshPersonList));
         // The capture screen's look at the serial line runs unseen.
-        QVERIFY(!station_->autorefractor().visible());
-        QVERIFY(running(station_->autorefractor(), station_->autorefractor().Tmr_CountDataFlow));
+        QVERIFY(!station_.station().autorefractor().visible());
+        QVERIFY(running(station_.station().autorefractor(), station_.station().autorefractor().Tmr_CountDataFlow));
     }
 
     void theNetworkWarningIsPlainlyShown()
     {
-        auto* label = qobject_cast<QLabel*>(windows_->main().widgetFor(main().Lbl_NetworkJournalDown));
+        auto* label = qobject_cast<QLabel*>(station_.windows().main().widgetFor(main().Lbl_NetworkJournalDown));
         QVERIFY(label->isVisibleTo(mainWindow()));
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::red));
         // Whole, in its large face, and inside the window.
         QVERIFY(QFontMetrics(label->font()).horizontalAdvance(label->text()) <= label->width());
         QVERIFY(QFontMetrics(label->font()).height() <= label->height());
-        QVERIFY(windows_->main().canvas()->rect().contains(label->geometry()));
+        QVERIFY(station_.windows().main().canvas()->rect().contains(label->geometry()));
     }
 };
 

@@ -12,62 +12,35 @@
 #include "core/Station.h"
 
 #include <QMessageBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace vistrel;
 using test::key;
-using test::writeFile;
 
 class MainWindowResizeTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    test::WindowStation station_;
     test::Person watcher_;
 
-    Frm_Vistrel& main() { return station_->vistrel(); }
-    QWidget* window() { return windows_->main().window(); }
+    Frm_Vistrel& main() { return station_.station().vistrel(); }
+    QWidget* window() { return station_.windows().main().window(); }
     // Where a control's widget stands in the window.
     QRect area(const Control& c)
     {
-        QWidget* w = windows_->main().widgetFor(c);
+        QWidget* w = station_.windows().main().widgetFor(c);
         return QRect(w->mapTo(window(), QPoint()), w->size());
     }
 
 private slots:
     void initTestCase()
     {
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        qputenv("VISTREL_COM1", "/nonexistent/vistrel-line");
-        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
-            "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
-            "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
-            "32000\r\n");
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"),
-            "1,-2.00,0.00,0,0.00,-2.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n");
-        platform_ = std::make_unique<qt::QtPlatform>();
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(1.0, 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&watcher_);
-        window()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowExposed(window()));
+        station_.writePlainOptions();
+        station_.writeInventory("1,-2.00,0.00,0,0.00,-2.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n");
+        station_.start(watcher_);
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-        qunsetenv("VISTREL_COM1");
-    }
+    void cleanupTestCase() { station_.stop(); }
 
     void theListsTakeTheRoomAWindowGains()
     {

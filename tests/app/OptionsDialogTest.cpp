@@ -15,7 +15,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -36,50 +35,34 @@ const QByteArray OptionsLine =
 class OptionsDialogTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
+    test::WindowStation station_;
     QString optionsFile_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
     std::unique_ptr<qt::PortNames> portNames_;
     test::Person person_;
 
 private slots:
     void initTestCase()
     {
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
         qputenv("VISTREL_COM3", "/nonexistent/vistrel-adapter");
-        optionsFile_ = shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt");
+        optionsFile_ = station_.shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt");
         writeFile(optionsFile_, OptionsLine);
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"),
-            "1,-2.00,0.00,0,0.00,-2.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n");
-        platform_ = std::make_unique<qt::QtPlatform>();
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), station_->vistrel(), qt::Metrics(1.0, 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        portNames_ = std::make_unique<qt::PortNames>(*windows_->windowFor(station_->options()), station_->options());
-        windows_->main().window()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowExposed(windows_->main().window()));
+        station_.writeInventory("1,-2.00,0.00,0,0.00,-2.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n");
+        station_.start(person_);
+        Frm_ProgramOptions& options = station_.station().options();
+        portNames_ = std::make_unique<qt::PortNames>(*station_.windows().windowFor(options), options);
     }
 
     void cleanupTestCase()
     {
         portNames_.reset();
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
+        station_.stop();
         qunsetenv("VISTREL_COM3");
     }
 
     void aBoxTickedBySpaceIsSavedByAltS()
     {
-        Frm_ProgramOptions& options = station_->options();
-        qt::FormWindow* window = windows_->windowFor(options);
+        Frm_ProgramOptions& options = station_.station().options();
+        qt::FormWindow* window = station_.windows().windowFor(options);
         auto* confidence = qobject_cast<QCheckBox*>(window->widgetFor(options.Chk_ConfidenceLevel));
         bool worked = false;
         person_.answer = [&](Form&, QWidget* dialog) {
@@ -96,7 +79,7 @@ private slots:
             QTRY_VERIFY(!options.visible());
             worked = true;
         };
-        station_->vistrel().SetOptions.click();
+        station_.station().vistrel().SetOptions.click();
         QVERIFY(worked);
 
         // The line as written: record 37 (the confidence) now YES, all else as
@@ -112,8 +95,8 @@ private slots:
 
     void thePortsOfThisComputerAreNamedBesideTheNumbers()
     {
-        Frm_ProgramOptions& options = station_->options();
-        qt::FormWindow* window = windows_->windowFor(options);
+        Frm_ProgramOptions& options = station_.station().options();
+        qt::FormWindow* window = station_.windows().windowFor(options);
         bool looked = false;
         person_.answer = [&](Form&, QWidget*) {
             QWidget* three = window->widgetFor(options.Opt_Com[3]);
@@ -124,7 +107,7 @@ private slots:
             QVERIFY(line->text().contains(QStringLiteral("3 = /nonexistent/vistrel-adapter")));
             looked = true;
         };
-        station_->vistrel().SetOptions.click();
+        station_.station().vistrel().SetOptions.click();
         QVERIFY(looked);
     }
 };

@@ -513,7 +513,7 @@ private slots:
         QVERIFY(port.portOpen());
 
         line->unplug();
-        QVERIFY(QTest::qWaitFor([&] { return !port.portOpen(); }, 5000));
+        QVERIFY(QTest::qWaitFor([&] { return !port.portOpen(); }, ReadingDeadlineMs));
         QVERIFY2(station.status().contains(QStringLiteral("went away")), qPrintable(station.status()));
         // The station's own write to a closed port goes nowhere, quietly.
         port.output("\x06");
@@ -522,7 +522,7 @@ private slots:
         // Put back, here as a new line under the same number.
         PseudoLine again;
         qputenv("VISTREL_COM1", again.slaveName());
-        QVERIFY(QTest::qWaitFor([&] { return port.portOpen(); }, 5000));
+        QVERIFY(QTest::qWaitFor([&] { return port.portOpen(); }, ReadingDeadlineMs));
         QVERIFY2(station.status().endsWith(QStringLiteral("open again, nothing received since.")),
             qPrintable(station.status()));
         const DeviceCase c = loadCase(QStringLiteral("topcon"), QStringLiteral("both-eyes"));

@@ -52,9 +52,7 @@ public:
     WindowStation() { qputenv("VISTREL_COM1", "/nonexistent/vistrel-line"); }
     ~WindowStation()
     {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
+        stop();
         qunsetenv("VISTREL_COM1");
     }
     WindowStation(const WindowStation&) = delete;
@@ -91,6 +89,28 @@ public:
         mainWindow()->show();
         station_->start();
         QVERIFY(QTest::qWaitForWindowActive(mainWindow()));
+    }
+
+    // Writes the options of a plain station: default tolerances, both eyes,
+    // no autorefractor, no network journal.
+    void writePlainOptions() const
+    {
+        writeFile(shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
+            "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
+            "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
+            "32000\r\n");
+    }
+    void writeInventory(const QByteArray& text) const
+    {
+        writeFile(documents() + QStringLiteral("/Vistrel/Total_Inventory.txt"), text);
+    }
+
+    // The windows closed and the station gone, before the application goes.
+    void stop()
+    {
+        windows_.reset();
+        station_.reset();
+        platform_.reset();
     }
 
     qt::QtPlatform& platform() const { return *platform_; }

@@ -20,7 +20,6 @@
 #include <QPlainTextEdit>
 #include <QStyle>
 #include <QStyleOptionButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -38,13 +37,6 @@ const char* const Inventory =
     "1,-3.25,-1.50,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n"
     "2,-3.50,-1.25,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n"
     "3,-3.00,-2.00,90,0.00,-1.00,0.00,0,0.00,0,0,0,0,0,62,0,\"\",,\r\n";
-
-double scale()
-{
-    bool ok = false;
-    const double s = qEnvironmentVariable("VISTREL_SCALE").toDouble(&ok);
-    return ok && s > 0 ? s : 1.0;
-}
 
 // The whole of a wrapped text fits the box it is shown in.
 bool showsWholly(QPlainTextEdit* edit)
@@ -65,15 +57,12 @@ bool showsWholly(QLabel* label)
 class WizardWindowTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    test::WindowStation station_;
     test::Person person_;
 
-    Frm_Vistrel& main() { return station_->vistrel(); }
-    Frm_Advisor& wizard() { return station_->advisor(); }
-    qt::FormWindow& mainWindow() { return windows_->main(); }
+    Frm_Vistrel& main() { return station_.station().vistrel(); }
+    Frm_Advisor& wizard() { return station_.station().advisor(); }
+    qt::FormWindow& mainWindow() { return station_.windows().main(); }
     QWidget* mainWidget(const Control& c) { return mainWindow().widgetFor(c); }
 
     // A measurement typed on the main screen, marked as typed, and searched.
@@ -95,37 +84,15 @@ class WizardWindowTest : public QObject {
 private slots:
     void initTestCase()
     {
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        qputenv("VISTREL_COM1", "/nonexistent/vistrel-line");
-        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
-            "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE,0,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
-            "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
-            "32000\r\n");
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"), Inventory);
-
-        platform_ = std::make_unique<qt::QtPlatform>();
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics(scale(), 96.0));
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        mainWindow().window()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowActive(mainWindow().window()));
-        station_->options().Chk_NoOverplus.setValue(0);
-        station_->options().Chk_NoOverCylinder.setValue(0);
-        station_->options().Chk_NoOverMinus.setValue(0);
+        station_.writePlainOptions();
+        station_.writeInventory(Inventory);
+        station_.start(person_, test::testScale());
+        station_.station().options().Chk_NoOverplus.setValue(0);
+        station_.station().options().Chk_NoOverCylinder.setValue(0);
+        station_.station().options().Chk_NoOverMinus.setValue(0);
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-        qunsetenv("VISTREL_COM1");
-    }
+    void cleanupTestCase() { station_.stop(); }
 
     // ---- the advice on the main window ----
     void theAdviceStandsBesideTheResultListWhole()
@@ -154,7 +121,7 @@ private slots:
     {
         measure("-3.00", "-2.00", "90", "-1.00", "30");
         QCOMPARE(main().FoundCount, 1);
-        qt::FormWindow* window = windows_->windowFor(wizard());
+        qt::FormWindow* window = station_.windows().windowFor(wizard());
         auto* caseThree = window->widgetFor(wizard().Chk_Case3_Left);
         auto* guide = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_GuideMe));
         auto* help = qobject_cast<QPlainTextEdit*>(window->widgetFor(wizard().Txt_Help));
@@ -167,7 +134,7 @@ private slots:
             QVERIFY(guide->isVisible());
             QVERIFY(!guide->toPlainText().isEmpty());
             QVERIFY2(showsWholly(guide), qPrintable(guide->toPlainText()));
-            QVERIFY(QFontInfo(guide->font()).pixelSize() >= 10 * scale());
+            QVERIFY(QFontInfo(guide->font()).pixelSize() >= 10 * test::testScale());
 
             // Tab to case 3 and check it with Space: the eye ends cut back.
             QVERIFY(caseThree->isVisible());
@@ -218,7 +185,7 @@ private slots:
     // ---- every case box says all it says ----
     void theCaseCaptionsAreShownWhole()
     {
-        qt::FormWindow* window = windows_->windowFor(wizard());
+        qt::FormWindow* window = station_.windows().windowFor(wizard());
         for (const CheckBox* box : {&wizard().Chk_Case1_Left, &wizard().Chk_Case2_Left, &wizard().Chk_Case3_Left,
                  &wizard().Chk_Case4_Left, &wizard().Chk_Case5_Still_no_match, &wizard().Chk_Case6_Desperate,
                  &wizard().Chk_VarnOverCylinder50}) {

@@ -7,11 +7,10 @@
 // for each input, and a few checks of the tables that any read that came
 // through must leave.
 
+#include "NullDevices.h"
 #include "core/Frm_Vistrel.h"
 #include "core/Station.h"
 #include "platform/Platform.h"
-#include "platform/Printer.h"
-#include "platform/SerialPort.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -35,25 +34,6 @@ namespace fs = std::filesystem;
 
 // Thrown where the station would end the process; the target catches it.
 struct StationEnded {};
-
-class NoLine : public SerialPort {
-    bool openPort() override { return false; }
-    void closePort() override {}
-    bool isOpen() const override { return false; }
-    std::string readAll() override { return {}; }
-    void write(const std::string&) override {}
-};
-
-class NoPrinter : public Printer {
-    void setFontName(const std::string&) override {}
-    void setFontSize(double) override {}
-    void setFontBold(bool) override {}
-    void setFontUnderline(bool) override {}
-    void print(const std::string&, bool) override {}
-    void newPage() override {}
-    void endDoc() override {}
-    bool choose(const std::string&) override { return false; }
-};
 
 // Folders under one temporary directory; every question answered at once,
 // every screen shown modally closed again.
@@ -81,8 +61,8 @@ public:
 
 private:
     fs::path root_;
-    NoLine line_;
-    NoPrinter printer_;
+    test::NullSerialPort line_;
+    test::NullPrinter printer_;
 };
 
 // The folders of one process, removed when it ends normally.

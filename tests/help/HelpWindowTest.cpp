@@ -22,7 +22,6 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -45,18 +44,15 @@ bool labelFits(const QLabel* label)
 class HelpWindowTest : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folders_;
-    std::unique_ptr<qt::QtPlatform> platform_;
-    std::unique_ptr<Station> station_;
-    std::unique_ptr<qt::StationWindows> windows_;
+    test::WindowStation station_;
     test::Person person_;
     QStringList opened_;
 
-    Frm_Vistrel& main() { return station_->vistrel(); }
-    qt::FormWindow& windowOf(const Form& form) { return *windows_->windowFor(form); }
+    Frm_Vistrel& main() { return station_.station().vistrel(); }
+    qt::FormWindow& windowOf(const Form& form) { return *station_.windows().windowFor(form); }
     void trigger(const Menu& entry)
     {
-        QAction* action = windows_->main().menus().bindingFor(entry)->action();
+        QAction* action = station_.windows().main().menus().bindingFor(entry)->action();
         QVERIFY(action->isEnabled());
         action->trigger();
     }
@@ -70,44 +66,25 @@ class HelpWindowTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QVERIFY(folders_.isValid());
-        const QString documents = folders_.filePath(QStringLiteral("documents"));
-        const QString shared = folders_.filePath(QStringLiteral("shared"));
-        qputenv("VISTREL_DOCUMENTS", documents.toUtf8());
-        qputenv("VISTREL_SHARED", shared.toUtf8());
-        writeFile(shared + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
+        writeFile(station_.shared() + QStringLiteral("/Application Data/Vistrel/Vistrel-Options.txt"),
             "DEFAULT,BOTH-EQUALLY,NONE,YES,NO,NO,NO,NONE, 1,YES,0,37,0.00,38,43,1.00,44,47,1.50,48,55,2.00,56,99,2.50,"
             "100,101,2.50,102,103,2.50,104,105,2.50,NO,NO,NO,NO,NO,NO,35,NO,NO,YES,NO,C:\\NetworkJournal,0,Default,1,"
             "32000\r\n");
-        writeFile(documents + QStringLiteral("/Vistrel/Total_Inventory.txt"),
-            "1,-2.25,-0.75,180,0.00,1.50,-0.50,90,0.00,0,0,0,0,0,M,0,\"\",\"\",\"\"\r\n");
-
-        platform_ = std::make_unique<qt::QtPlatform>();
-        platform_->openDocument = [this](const QString& file) {
+        station_.writeInventory("1,-2.25,-0.75,180,0.00,1.50,-0.50,90,0.00,0,0,0,0,0,M,0,\"\",\"\",\"\"\r\n");
+        station_.start(person_, test::testScale());
+        station_.platform().openDocument = [this](const QString& file) {
             opened_ << file;
             return true;
         };
-        station_ = std::make_unique<Station>(*platform_);
-        windows_ = std::make_unique<qt::StationWindows>(station_->forms(), main(), qt::Metrics::fromEnvironment());
-        platform_->setWindows(windows_.get());
-        platform_->setDialogWatcher(&person_);
-        windows_->main().window()->show();
-        station_->start();
-        QVERIFY(QTest::qWaitForWindowActive(windows_->main().window()));
         // The documents as built, beside the window program.
         main().ProgramFilesLocation = QDir::toNativeSeparators(QStringLiteral(VISTREL_HELP_PROGRAM_DIR)).toStdString();
     }
 
-    void cleanupTestCase()
-    {
-        windows_.reset();
-        station_.reset();
-        platform_.reset();
-    }
+    void cleanupTestCase() { station_.stop(); }
 
     void aboutShowsTheVersionAndClosesByEscape()
     {
-        Frm_About& about = station_->about();
+        Frm_About& about = station_.station().about();
         bool worked = false;
         person_.answer = [&](Form&, QWidget*) {
             QVERIFY(about.Showing);
@@ -126,7 +103,7 @@ private slots:
 
     void theHelpScreenOpensAGuideByItsKeyAndClosesByAltC()
     {
-        Frm_HelpAreas& help = station_->helpAreas();
+        Frm_HelpAreas& help = station_.station().helpAreas();
         bool worked = false;
         opened_.clear();
         person_.answer = [&](Form&, QWidget* window) {
@@ -156,7 +133,7 @@ private slots:
 
     void theUpdateScreenFitsAndClosesByAltC()
     {
-        Frm_CheckForUpdates& updates = station_->checkForUpdates();
+        Frm_CheckForUpdates& updates = station_.station().checkForUpdates();
         bool worked = false;
         person_.answer = [&](Form&, QWidget*) {
             expectLabelsFit(updates);
@@ -172,7 +149,7 @@ private slots:
     void theResultListsHeadingOpensItsGuideWhenClicked()
     {
         opened_.clear();
-        QWidget* heading = windows_->main().widgetFor(main().Lbl_SearchDataEntryArea);
+        QWidget* heading = station_.windows().main().widgetFor(main().Lbl_SearchDataEntryArea);
         QVERIFY(heading && heading->isVisible());
         QTest::mouseClick(heading, Qt::LeftButton, {}, heading->rect().center());
         QTRY_COMPARE(opened_.size(), 1);
@@ -183,11 +160,11 @@ private slots:
     // instead of waiting for a window that never comes.
     void aGuideNothingOpensIsNamedInAMessage()
     {
-        const auto keep = platform_->openDocument;
-        platform_->openDocument = [](const QString&) { return false; };
+        const auto keep = station_.platform().openDocument;
+        station_.platform().openDocument = [](const QString&) { return false; };
         const int before = person_.messages;
         trigger(main().HelpFileDropdown);
-        platform_->openDocument = keep;
+        station_.platform().openDocument = keep;
         QCOMPARE(person_.messages, before + 1);
         QVERIFY2(person_.lastMessage.contains(QStringLiteral("File_Dropdown_Help.pdf")), qPrintable(person_.lastMessage));
     }

@@ -5,10 +5,9 @@
 // station's questions from a queue, a reader of journal lines, and a few
 // helpers to start, feed, kill and reap child processes.
 
+#include "NullDevices.h"
 #include "core/screen/Form.h"
 #include "platform/Platform.h"
-#include "platform/Printer.h"
-#include "platform/SerialPort.h"
 
 #include <deque>
 #include <filesystem>
@@ -92,27 +91,6 @@ int rejectionCount(long n);
 // bytes of two writers can't go unseen.
 std::string hammerLine(int tag, long seq);
 
-class QuietSerialPort : public SerialPort {
-protected:
-    bool openPort() override { return false; }
-    void closePort() override {}
-    bool isOpen() const override { return false; }
-    std::string readAll() override { return {}; }
-    void write(const std::string&) override {}
-};
-
-class QuietPrinter : public Printer {
-public:
-    void setFontName(const std::string&) override {}
-    void setFontSize(double) override {}
-    void setFontBold(bool) override {}
-    void setFontUnderline(bool) override {}
-    void print(const std::string&, bool) override {}
-    void newPage() override {}
-    void endDoc() override {}
-    bool choose(const std::string&) override { return false; }
-};
-
 // A platform on two given folders. A screen shown modally is answered with
 // the next button of `answers` (or `standingAnswer` when the queue is
 // empty); a screen with neither is closed, the options screen continued.
@@ -150,8 +128,8 @@ public:
 private:
     fs::path docs_;
     fs::path shared_;
-    QuietSerialPort port_;
-    QuietPrinter printer_;
+    test::NullSerialPort port_;
+    test::NullPrinter printer_;
 };
 
 // ---- Child processes ----

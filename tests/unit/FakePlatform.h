@@ -4,11 +4,10 @@
 // line that never opens, a printer that prints nowhere, message boxes kept
 // in a list, and an end of the process that throws instead of exiting.
 
+#include "NullDevices.h"
 #include "core/screen/Control.h"
 #include "core/screen/Form.h"
 #include "platform/Platform.h"
-#include "platform/Printer.h"
-#include "platform/SerialPort.h"
 
 #include <atomic>
 #include <filesystem>
@@ -71,27 +70,6 @@ struct ProcessEnded : std::runtime_error {
     ProcessEnded() : std::runtime_error("the station ended the process") {}
 };
 
-class FakeSerialPort : public SerialPort {
-protected:
-    bool openPort() override { return false; }
-    void closePort() override {}
-    bool isOpen() const override { return false; }
-    std::string readAll() override { return {}; }
-    void write(const std::string&) override {}
-};
-
-class FakePrinter : public Printer {
-public:
-    void setFontName(const std::string&) override {}
-    void setFontSize(double) override {}
-    void setFontBold(bool) override {}
-    void setFontUnderline(bool) override {}
-    void print(const std::string&, bool) override {}
-    void newPage() override {}
-    void endDoc() override {}
-    bool choose(const std::string&) override { return false; }
-};
-
 struct Box {
     std::string title;
     std::string text;
@@ -152,8 +130,8 @@ public:
 
 private:
     fs::path root_;
-    FakeSerialPort port_;
-    FakePrinter printer_;
+    NullSerialPort port_;
+    NullPrinter printer_;
 };
 
 }  // namespace vistrel::test

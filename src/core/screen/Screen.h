@@ -34,6 +34,24 @@ protected:
 
     // Registers a handler or public operation under its name.
     void op(const std::string& name, std::function<void()> fn) { bindOp(name, std::move(fn)); }
+
+    // A control's event goes to its handler, which is also registered as an
+    // operation under its name, so that other screens and scripts reach it.
+    void wireClick(Control& c, const std::string& handler, std::function<void()> fn)
+    {
+        c.onClick = fn;
+        op(handler, std::move(fn));
+    }
+    void wireDblClick(Control& c, const std::string& handler, std::function<void()> fn)
+    {
+        c.onDblClick = fn;
+        op(handler, std::move(fn));
+    }
+    void wireChange(TextBox& t, const std::string& handler, std::function<void()> fn)
+    {
+        t.onChange = fn;
+        op(handler, std::move(fn));
+    }
     template <typename T>
     void var(const std::string& name, T& v)
     {
